@@ -1,0 +1,23 @@
+#include "demo/DmComercial.h"
+
+#include "demo/dados/Banco.h"
+#include "platform/data/Field.h"
+
+TDM_Comercial::TDM_Comercial(TComponent* AOwner) : TDM_Base(AOwner, nullptr), FConnection(new TFDConnection(this)) {}
+
+void TDM_Comercial::OpenDatabase(const UnicodeString& path) {
+    ApontarConexao(*FConnection, path);
+    FConnection->Open();
+}
+
+TFDQuery* TDM_Comercial::NewQuery(TComponent* owner, const UnicodeString& sql) const {
+    auto* query = new TFDQuery(owner);
+    query->SetConnection(FConnection);
+    query->SQL()->SetText(sql);
+    query->DescribeFields();
+    return query;
+}
+
+void Label(TDataSet* dataset, const UnicodeString& fieldName, const UnicodeString& caption) {
+    dataset->FieldByName(fieldName)->SetDisplayLabel(caption);
+}

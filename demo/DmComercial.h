@@ -1,0 +1,25 @@
+// The data module of Comercial: the connection that all screens share.
+#pragma once
+
+#include "db/UDM_Base.h"
+#include "platform/data/Connection.h"
+#include "platform/data/Query.h"
+
+class TDM_Comercial : public TDM_Base {
+  public:
+    explicit TDM_Comercial(TComponent* AOwner);
+
+    // Opens the sample database at `path` through the embedded engine. Raises with the cause in Portuguese.
+    void OpenDatabase(const UnicodeString& path);
+
+    TFDConnection* Connection() const { return FConnection; }
+
+    // A query on the connection, owned by `owner`, described but not opened.
+    TFDQuery* NewQuery(TComponent* owner, const UnicodeString& sql) const;
+
+  private:
+    TFDConnection* FConnection;
+};
+
+// Gives the field its caption and, when not 0, its character width.
+void Label(TDataSet* dataset, const UnicodeString& fieldName, const UnicodeString& caption);

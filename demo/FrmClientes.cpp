@@ -1,0 +1,130 @@
+#include "demo/FrmClientes.h"
+
+#include "demo/dados/Municipios.h"
+#include "forms/masters/Ficha.h"
+#include "platform/rtl/DateTime.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct TCaption {
+    const char16_t* Field;
+    const char16_t* Caption;
+};
+
+constexpr TCaption kCaptions[] = {
+    {u"CD_CLI", u"Código"},         {u"NM_CLI", u"Nome"},
+    {u"FANTASIA", u"Nome fantasia"}, {u"NR_CPF", u"CPF/CNPJ"},
+    {u"NR_INS_EST", u"Inscrição estadual"}, {u"NM_EST", u"UF"},
+    {u"CIDADE", u"Cidade"},         {u"E_MAIL", u"E-mail"},
+    {u"DT_CAD", u"Cadastro"},       {u"VL_LIMITE", u"Limite de crédito"},
+    {u"TF_ATIVO", u"Ativo"}};
+
+// The grid shows some of the columns, the form all of them.
+void LabelCliente(TDataSet* clientes) {
+    for (const TCaption& caption : kCaptions) {
+        TField* field = clientes->FindField(UnicodeString::fromUtf16(caption.Field));
+        if (field) field->SetDisplayLabel(UnicodeString::fromUtf16(caption.Caption));
+    }
+    clientes->FieldByName(u"VL_LIMITE"_s)->SetTag(2);
+}
+
+}  // namespace
+
+TFrmClientes::TFrmClientes(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData)
+    : TFrmViz_Master(
+          AOwner, AModule,
+          [AData](TComponent* owner, TModuleInstance* module, unsigned char mode, TKeyType keyType, bool load) {
+              return NewForm<TFrmCadCliente>(owner, module, mode, keyType, load, AData);
+          },
+          vtFilter, ktFieldProviderFlag),
+      FData(AData) {}
+
+void TFrmClientes::CreateControls() {
+    TFrmViz_Master::CreateControls();
+    TFDQuery* clientes = FData->NewQuery(
+        this, u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, CIDADE, NM_EST, DT_CAD, VL_LIMITE, TF_ATIVO, TF_DEL\n"
+              "FROM CLIENTE"_s);
+    LabelCliente(clientes);
+    clientes->SetTag(clientes->FieldByName(u"NM_CLI"_s)->Index());
+    TField* active = clientes->FieldByName(u"TF_ATIVO"_s);
+    active->OnGetText = [data = FData](TField* field, UnicodeString& text, bool display) {
+        data->TrueFalseGetText(field, text, display);
+    };
+    MainDS->SetDataSet(clientes);
+
+    DBGrd->AddColumn(u"CD_CLI"_s, u"Código"_s, 70);
+    DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 260);
+    DBGrd->AddColumn(u"FANTASIA"_s, u"Nome fantasia"_s, 170);
+    DBGrd->AddColumn(u"NR_CPF"_s, u"CPF/CNPJ"_s, 120);
+    DBGrd->AddColumn(u"CIDADE"_s, u"Cidade"_s, 150);
+    DBGrd->AddColumn(u"NM_EST"_s, u"UF"_s, 40);
+    DBGrd->AddColumn(u"DT_CAD"_s, u"Cadastro"_s, 90);
+    DBGrd->AddColumn(u"VL_LIMITE"_s, u"Limite de crédito"_s, 120);
+    TColumn* activeColumn = DBGrd->AddColumn(u"TF_ATIVO"_s, u"Ativo"_s, 60);
+    activeColumn->PickList().SetText(u"SIM;S\nNÃO;N"_s);
+}
+
+void TFrmClientes::FormCreate(TComponent* Sender) {
+    TFrmViz_Master::FormCreate(Sender);
+    RefreshData();
+}
+
+void TFrmClientes::DBGrdTitleClick(TColumn* Column) {
+    TFrmViz_Master::DBGrdTitleClick(Column);
+    if (!MainDS->DataSet()->Active()) RefreshData();
+}
+
+TFrmCadCliente::TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, unsigned char AMode, TKeyType AKeyType,
+                               bool ALoadWindowConfig, TDM_Comercial* AData)
+    : TFrmCad_Master(AOwner, AModule, AMode, AKeyType, ALoadWindowConfig), FData(AData) {}
+
+void TFrmCadCliente::CreateControls() {
+    TFrmCad_Master::CreateControls();
+    SetClientWidth(680);
+    SetClientHeight(400);
+    CreateQuery();
+    CreateMainPage();
+    CreateTradePage();
+}
+
+void TFrmCadCliente::CreateQuery() {
+    TFDQuery* cliente = FData->NewQuery(
+        this, u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, NR_INS_EST, NM_EST, CIDADE, E_MAIL, DT_CAD, VL_LIMITE,\n"
+              "TF_ATIVO, TF_DEL\nFROM CLIENTE"_s);
+    LabelCliente(cliente);
+    cliente->OnNewRecord = [](TDataSet* record) {
+        record->FieldByName(u"DT_CAD"_s)->SetAsDateTime(Date());
+        record->FieldByName(u"TF_ATIVO"_s)->SetAsString(u"S"_s);
+        record->FieldByName(u"TF_DEL"_s)->SetAsString(u"N"_s);
+    };
+    MainDS->SetDataSet(cliente);
+}
+
+void TFrmCadCliente::CreateMainPage() {
+    TabSheet1->SetCaption(u"Cadastro"_s);
+    TFicha ficha(this, TabSheet1, MainDS);
+    ficha.ReadOnlyEdit(u"CD_CLI"_s, 90);
+    ficha.Edit(u"NM_CLI"_s, 420);
+    ficha.NewRow();
+    ficha.Edit(u"FANTASIA"_s, 260);
+    ficha.Edit(u"NR_CPF"_s, 150);
+    ficha.NewRow();
+    ficha.Edit(u"CIDADE"_s, 260);
+    ficha.Combo(u"NM_EST"_s, SiglasDosEstados(), 80);
+    ficha.Edit(u"NR_INS_EST"_s, 150);
+    ficha.NewRow();
+    ficha.Edit(u"E_MAIL"_s, 420);
+}
+
+void TFrmCadCliente::CreateTradePage() {
+    auto* page = new TTabSheet(this);
+    page->SetPageControl(PageControl);
+    page->SetCaption(u"Comercial"_s);
+    TFicha ficha(this, page, MainDS);
+    ficha.Edit(u"DT_CAD"_s, 110);
+    ficha.Edit(u"VL_LIMITE"_s, 140);
+    ficha.NewRow();
+    ficha.Check(u"TF_ATIVO"_s, 140);
+}

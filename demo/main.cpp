@@ -1,0 +1,76 @@
+// Comercial: the sample host of Fichário. On first use it creates its database in the user's data folder.
+//
+//     comercial                      opens the main window
+//     comercial --banco FILE         another database file
+//     comercial --consulta           a user who may look, but not change
+//     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour)
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include "demo/dados/Banco.h"
+#include "demo/DmComercial.h"
+#include "demo/FrmPrincipal.h"
+#include "demo/Turne.h"
+#include "platform/rtl/Exceptions.h"
+#include "platform/system/Paths.h"
+#include "platform/ui/Application.h"
+#include "platform/ui/Palette.h"
+#include "platform/ui/Resources.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct TOptions {
+    UnicodeString Database;
+    UnicodeString TourFolder;
+    bool ReadOnly = false;
+};
+
+TOptions ReadOptions(const QApplication& app) {
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addOption({u"banco"_s, u"Arquivo do banco de dados."_s, u"arquivo"_s, CaminhoDoBanco()});
+    parser.addOption({u"consulta"_s, u"Abre o programa para um usuário que só pode consultar."_s});
+    parser.addOption({{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
+    parser.process(app);
+    return {parser.value(u"banco"_s), parser.value(u"turne"_s), parser.isSet(u"consulta"_s)};
+}
+
+void PrepareDatabase(const UnicodeString& path) {
+    if (BancoExiste(path)) return;
+    fprintf(stdout, "Criando o banco de dados de exemplo em %s\n", qPrintable(path));
+    CriarBancoDeExemplo(path, kClientesDeExemplo, [](int done, int total) {
+        fprintf(stdout, "\r  %d de %d clientes", done, total);
+        fflush(stdout);
+    });
+    fprintf(stdout, "\n");
+}
+
+int RunHost(const TOptions& options) {
+    auto* data = new TDM_Comercial(Application);
+    PrepareDatabase(options.Database);
+    data->OpenDatabase(options.Database);
+    auto* main = NewForm<TFrmPrincipal>(Application, data);
+    main->SetIcon(LoadIconResource(u":/fichario"_s, u"FICHARIO"_s));
+    if (options.ReadOnly) main->Clientes().SetRights({});
+    if (!options.TourFolder.isEmpty()) return WriteTour(*main, options.TourFolder);
+    return Application->Run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"Comercial"_s);
+    ApplyLooks(app);
+    TApplication application;
+    const TOptions options = ReadOptions(app);
+    try {
+        return RunHost(options);
+    } catch (const Exception& e) {
+        fprintf(stderr, "%s\n", e.what());
+        if (options.TourFolder.isEmpty()) Application->MessageBox(e.Message, u"Erro"_s, MB_ICONERROR);
+        return 1;
+    }
+}

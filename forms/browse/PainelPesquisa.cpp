@@ -1,0 +1,369 @@
+// The search box of the grid master: its controls, its keys and what it shows for each kind of column.
+#include "forms/browse/CriterioPesquisa.h"
+#include "forms/browse/UGrid_Master.h"
+#include "platform/data/DataSet.h"
+#include "platform/rtl/FormatSettings.h"
+#include "platform/ui/Palette.h"
+#include "utils/Funcoes.h"
+#include "utils/funcoes/Janelas.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const UnicodeString kHint = u"Pesquisa (F3)"_s;
+constexpr int kDebounceMs = 200;
+constexpr int kSearchWidth = 250;      // the panel alone
+constexpr int kRangeEndWidth = 125;    // the panel beside the second one
+constexpr int kRangeStartWidth = 103;  // so that both and the gap take the width of the panel alone
+constexpr int kRangeGap = 22;
+constexpr int kPanelHeight = 25;
+
+}  // namespace
+
+void TFrmGrid_Master::CreateControls() {
+    TFrmBase::CreateControls();
+    MainDS = new TDataSource(this);
+    MainDS->SetName(u"MainDS"_s);
+    CreateGrid();
+    CreateSearchPanel();
+    CreateRangePanel();
+    WireSearch();
+}
+
+void TFrmGrid_Master::CreateGrid() {
+    DBGrd = new TOrlaDBGrid(this);
+    DBGrd->SetName(u"DBGrd"_s);
+    DBGrd->SetParent(this);
+    DBGrd->SetAccessibleName(u"Registros"_s);
+    DBGrd->SetBounds(0, 42, ClientWidth(), ClientHeight() - 42);
+    DBGrd->SetAnchors(akLeft | akTop | akRight | akBottom);
+    DBGrd->SetReadOnly(true);
+    DBGrd->SetDataSource(MainDS);
+    DBGrd->OnEnter = [this](TComponent* sender) { DBGrdEnter(sender); };
+    DBGrd->OnTitleClick = [this](TColumn* column) { DBGrdTitleClick(column); };
+    DBGrd->OnColumnMoved = [this](int from, int to) { DBGrdColumnMoved(from, to); };
+    DBGrd->OnGetTextColor = [this](TColumn* column, QColor& color, QFont& font) {
+        DBGrdGetTextColor(column, color, font);
+    };
+}
+
+void TFrmGrid_Master::CreateSearchPanel() {
+    PnPesquisa = new TPanel(this);
+    PnPesquisa->SetName(u"PnPesquisa"_s);
+    PnPesquisa->SetParent(this);
+    PnPesquisa->SetBounds(ClientWidth() - kSearchWidth - 8, 8, kSearchWidth, kPanelHeight);
+    PnPesquisa->SetAnchors(akTop | akRight);
+    PnPesquisa->SetColor(Cores::Trabalho);
+    PnPesquisa->SetBorder(true);
+
+    ImgPesq = new TImage(this);
+    ImgCancelPesq = new TImage(this);
+    ImgPesq->SetName(u"ImgPesq"_s);
+    ImgCancelPesq->SetName(u"ImgCancelPesq"_s);
+    for (TImage* image : {ImgPesq, ImgCancelPesq}) {
+        image->SetParent(PnPesquisa);
+        image->SetBounds(kSearchWidth - 21, 4, 16, 16);
+        image->SetAnchors(akTop | akRight);
+        image->SetResource(Module ? Module->ModuleResources() : UnicodeString(),
+                           image == ImgPesq ? u"IMG_PESQ"_s : u"IMG_CANCEL_PESQ"_s);
+    }
+    ImgPesq->SetAccessibleName(u"Pesquisar"_s);
+    ImgCancelPesq->SetAccessibleName(u"Limpar pesquisa"_s);
+    ImgCancelPesq->SetHint(u"Limpar pesquisa (Esc)"_s);
+    ImgCancelPesq->SetVisible(false);
+
+    EdtPesquisa = new TMaskEdit(this);
+    EdtPesquisa->SetName(u"EdtPesquisa"_s);
+    EdtPesquisa->SetAccessibleName(u"Pesquisa"_s);
+    CbPesquisa = new TComboBox(this);
+    CbPesquisa->SetName(u"CbPesquisa"_s);
+    CbPesquisa->SetAccessibleName(u"Pesquisa"_s);
+    DpPesq2 = new TDateTimePicker(this);
+    DpPesq2->SetName(u"DpPesq2"_s);
+    DpPesq2->SetAccessibleName(u"Data final"_s);
+    const std::initializer_list<TControl*> inputs = {EdtPesquisa, CbPesquisa, DpPesq2};
+    for (TControl* input : inputs) {
+        input->SetParent(PnPesquisa);
+        input->SetAnchors(akLeft | akTop | akRight);
+        input->SetBounds(1, 1, kSearchWidth - 2 - (input == EdtPesquisa ? 24 : 0), kPanelHeight - 2);
+        input->SetVisible(input == EdtPesquisa);
+    }
+    EdtPesquisa->SetBorder(false);
+}
+
+void TFrmGrid_Master::CreateRangePanel() {
+    PnPesquisa2 = new TPanel(this);
+    PnPesquisa2->SetName(u"PnPesquisa2"_s);
+    PnPesquisa2->SetParent(this);
+    PnPesquisa2->SetBounds(PnPesquisa->Left(), PnPesquisa->Top(), kRangeStartWidth, kPanelHeight);
+    PnPesquisa2->SetAnchors(akTop | akRight);
+    PnPesquisa2->SetColor(Cores::Trabalho);
+    PnPesquisa2->SetBorder(true);
+    PnPesquisa2->SetVisible(false);
+
+    EdtPesquisa2 = new TMaskEdit(this);
+    EdtPesquisa2->SetName(u"EdtPesquisa2"_s);
+    EdtPesquisa2->SetAccessibleName(u"Valor inicial"_s);
+    EdtPesquisa2->SetBorder(false);
+    DpPesq1 = new TDateTimePicker(this);
+    DpPesq1->SetName(u"DpPesq1"_s);
+    DpPesq1->SetAccessibleName(u"Data inicial"_s);
+    const std::initializer_list<TControl*> inputs = {EdtPesquisa2, DpPesq1};
+    for (TControl* input : inputs) {
+        input->SetParent(PnPesquisa2);
+        input->SetBounds(1, 1, kRangeStartWidth - 2, kPanelHeight - 2);
+        input->SetVisible(false);
+    }
+
+    LbPesqInt = new TLabel(this);
+    LbPesqInt->SetName(u"LbPesqInt"_s);
+    LbPesqInt->SetParent(this);
+    LbPesqInt->SetCaption(u"a"_s);
+    LbPesqInt->SetAnchors(akTop | akRight);
+    LbPesqInt->SetVisible(false);
+}
+
+void TFrmGrid_Master::WireSearch() {
+    FTmPesquisa = new TTimer(this);
+    FTmPesquisa->SetInterval(kDebounceMs);
+    FTmPesquisa->SetEnabled(false);
+    FTmPesquisa->OnTimer = [this](TComponent* sender) { TmPesquisaTimer(sender); };
+    FTmContagem = new TTimer(this);
+    FTmContagem->SetInterval(1);
+    FTmContagem->SetEnabled(false);
+    FTmContagem->OnTimer = [this](TComponent*) { ShowCount(); };
+
+    for (TMaskEdit* edit : {EdtPesquisa, EdtPesquisa2}) {
+        edit->OnChange = [this](TComponent* sender) { EdtPesquisaChange(sender); };
+        edit->OnKeyDown = [this](TComponent* sender, int& key, TShiftState shift) {
+            EdtPesquisaKeyDown(sender, key, shift);
+        };
+        edit->OnKeyPress = [this](TComponent* sender, WideChar& key) { EdtPesquisaKeyPress(sender, key); };
+    }
+    EdtPesquisa->OnEnter = [this](TComponent* sender) { EdtPesquisaEnter(sender); };
+    for (TDateTimePicker* picker : {DpPesq1, DpPesq2}) {
+        picker->OnChange = [this](TComponent* sender) { DpPesq1Change(sender); };
+        picker->OnKeyPress = [this](TComponent* sender, WideChar& key) { EdtPesquisaKeyPress(sender, key); };
+    }
+    CbPesquisa->OnChange = [this](TComponent* sender) { CbPesquisaChange(sender); };
+    ImgCancelPesq->OnClick = [this](TComponent* sender) { ImgCancelPesqClick(sender); };
+    OnResize = [this](TComponent* sender) { FormResize(sender); };
+    OnKeyDown = [this](TComponent* sender, int& key, TShiftState shift) { FormKeyDown(sender, key, shift); };
+}
+
+bool TFrmGrid_Master::ShowsHint(const TMaskEdit* Edit) const { return Edit->Font().italic(); }
+
+UnicodeString TFrmGrid_Master::TypedIn(const TMaskEdit* Edit) const {
+    return ShowsHint(Edit) ? UnicodeString() : Edit->Text();
+}
+
+void TFrmGrid_Master::ClearSearch() {
+    QFont font = EdtPesquisa->Font();
+    font.setItalic(true);
+    EdtPesquisa->SetFont(font);
+    EdtPesquisa->SetText({});
+    EdtPesquisa2->SetText({});
+    EdtPesquisa->SetFontColor(Cores::Dica);
+    EdtPesquisa->SetEditMask({});
+    EdtPesquisa->SetText(kHint);
+    ImgPesq->SetVisible(true);
+    ImgCancelPesq->SetVisible(false);
+    if (SearchKindOf(FOrderField) == skNumber) {
+        TDrawLock lock(this);
+        ShowRange(false);
+    }
+    if (EdtPesquisa->Focused() || EdtPesquisa2->Focused()) DBGrd->SetFocus();
+}
+
+void TFrmGrid_Master::ShowTextSearch(TColumn* Column) {
+    TDrawLock lock(this);
+    const bool list = Column->PickList().Count() > 0 && SearchKindOf(FOrderField) != skNumber;
+    EdtPesquisa->SetVisible(!list);
+    if (list) FillPickList(Column);
+    CbPesquisa->SetVisible(list);
+    ShowRange(false);
+}
+
+void TFrmGrid_Master::FillPickList(TColumn* Column) {
+    CbPesquisa->Items()->Clear();
+    ComboValues->Clear();
+    for (int i = 0; i < Column->PickList().Count(); ++i) {
+        const TPickItem item = SplitPickItem(Column->PickList()[i]);
+        CbPesquisa->Items()->Add(item.Shown);
+        ComboValues->Add(item.Value);
+    }
+    CbPesquisa->SetItemIndex(0);
+}
+
+void TFrmGrid_Master::ShowDateSearch() {
+    const TDateTime today = Date();
+    DpPesq1->SetDate(FirstDayOfMonth(today));
+    DpPesq2->SetDate(LastDayOfMonth(today));
+    {
+        TDrawLock lock(this);
+        EdtPesquisa->SetVisible(false);
+        EdtPesquisa2->SetVisible(false);
+        ShowRange(true);
+        DpPesq1->SetVisible(true);
+        DpPesq2->SetVisible(true);
+    }
+    Locate({});
+}
+
+// Both panels take the place of the single one, so nothing beside them moves.
+void TFrmGrid_Master::ShowRange(bool Range) {
+    const int left = PnPesquisa->Left() + PnPesquisa->Width() - kSearchWidth;
+    PnPesquisa2->SetBounds(left, PnPesquisa->Top(), kRangeStartWidth, kPanelHeight);
+    PnPesquisa2->SetVisible(Range);
+    LbPesqInt->SetVisible(Range);
+    ImgPesq->SetVisible(!Range || SearchKindOf(FOrderField) == skNumber);
+    if (!Range) {
+        DpPesq1->SetVisible(false);
+        DpPesq2->SetVisible(false);
+    }
+    if (Range) {
+        PnPesquisa->SetBounds(left + kRangeStartWidth + kRangeGap, PnPesquisa->Top(), kRangeEndWidth, kPanelHeight);
+    } else {
+        PnPesquisa->SetBounds(left, PnPesquisa->Top(), kSearchWidth, kPanelHeight);
+    }
+    FixPesqPanel();
+}
+
+void TFrmGrid_Master::FixPesqPanel() {
+    const bool range = PnPesquisa->Width() == kRangeEndWidth;
+    PnPesquisa2->SetTop(PnPesquisa->Top());
+    PnPesquisa2->SetLeft(range ? PnPesquisa->Left() - kRangeGap - PnPesquisa2->Width() : PnPesquisa->Left());
+    LbPesqInt->SetLeft(PnPesquisa2->Left() + PnPesquisa2->Width() + 3);
+    LbPesqInt->SetTop(PnPesquisa->Top() + 5);
+}
+
+void TFrmGrid_Master::FormResize(TComponent*) { FixPesqPanel(); }
+
+void TFrmGrid_Master::FormKeyDown(TComponent*, int& Key, TShiftState) {
+    if (Key == VK_F3) {
+        Key = 0;
+        const std::initializer_list<TControl*> inputs = {EdtPesquisa2, DpPesq1, CbPesquisa, EdtPesquisa};
+        for (TControl* input : inputs) {
+            if (!input->CanFocus()) continue;
+            input->SetFocus();
+            return;
+        }
+    } else if (Key == VK_F5) {
+        Key = 0;
+        MainDataSet()->Close();
+        MainDataSet()->Open();
+        MainDataSet()->First();
+        GetRecordCount();
+    }
+}
+
+void TFrmGrid_Master::FormKeyPress(TComponent* Sender, WideChar& Key) {
+    if (Key == VK_ESCAPE) {
+        Key = 0;
+        const bool searching = (EdtPesquisa->Focused() || EdtPesquisa2->Focused()) && !ShowsHint(EdtPesquisa);
+        if (searching) {
+            ClearSearch();
+        } else {
+            Close();
+        }
+    } else if (DBGrd->Focused() && IsKeyCharacter(Key) && EdtPesquisa->CanFocus()) {
+        EdtPesquisa->SetFocus();
+        EdtPesquisaKeyPress(Sender, Key);
+        auto* edit = dynamic_cast<TMaskEdit*>(ActiveControl());
+        if (Key != 0 && edit) {
+            edit->SetText(edit->Text() + Key);
+            edit->CaretToEnd();
+            Key = 0;
+        }
+    }
+    TFrmBase::FormKeyPress(Sender, Key);
+}
+
+void TFrmGrid_Master::EdtPesquisaChange(TComponent*) {
+    if (ShowsHint(EdtPesquisa)) return;
+    const UnicodeString text = EdtPesquisa->Text();
+    if (FVisType == vtList) {
+        Locate(text);
+    } else if (!text.isEmpty() || PnPesquisa2->Visible()) {
+        FSearchTerm = text;
+        LookingForRecords = true;
+        FTmPesquisa->SetEnabled(false);
+        FTmPesquisa->SetEnabled(true);
+    }
+    ImgPesq->SetVisible(false);
+    ImgCancelPesq->SetVisible(true);
+}
+
+void TFrmGrid_Master::EdtPesquisaEnter(TComponent*) {
+    if (EdtPesquisa->Text() != kHint || !ShowsHint(EdtPesquisa)) return;
+    EdtPesquisa->SetText({});
+    QFont font = EdtPesquisa->Font();
+    font.setItalic(false);
+    EdtPesquisa->SetFont(font);
+    EdtPesquisa->SetFontColor(Cores::Texto);
+    if (SearchKindOf(FOrderField) != skNumber) return;
+    {
+        TDrawLock lock(this);
+        DpPesq1->SetVisible(false);
+        DpPesq2->SetVisible(false);
+        EdtPesquisa->SetVisible(true);
+        EdtPesquisa2->SetVisible(true);
+        ShowRange(true);
+    }
+    EdtPesquisa2->SetFocus();
+}
+
+void TFrmGrid_Master::EdtPesquisaKeyDown(TComponent*, int& Key, TShiftState) {
+    if (Key != VK_UP && Key != VK_DOWN) return;
+    const bool up = Key == VK_UP;
+    Key = 0;
+    if (!MainDataSet()->Active()) return;
+    if (up) {
+        MainDataSet()->Prior();
+    } else {
+        MainDataSet()->Next();
+    }
+}
+
+void TFrmGrid_Master::EdtPesquisaKeyPress(TComponent*, WideChar& Key) {
+    if (Key == VK_RETURN) {
+        Key = 0;
+        if (EdtPesquisa2->Focused()) {
+            EdtPesquisa->SetFocus();
+        } else if (DpPesq1->Focused()) {
+            DpPesq2->SetFocus();
+        } else {
+            DBGrd->SetFocus();
+        }
+        return;
+    }
+    if (dynamic_cast<TIntegerField*>(FOrderField) || dynamic_cast<TLargeintField*>(FOrderField)) {
+        OnlyInteger(Key);
+    } else if (SearchKindOf(FOrderField) == skNumber) {
+        const auto* edit = dynamic_cast<TMaskEdit*>(ActiveControl());
+        GetDecSeparator(Key);
+        const bool separator = Key == FormatSettings.DecimalSeparator;
+        if (separator && edit && edit->Text().contains(QChar(Key))) Abort();
+        if (!separator) OnlyInteger(Key);
+    }
+}
+
+void TFrmGrid_Master::TmPesquisaTimer(TComponent*) {
+    FTmPesquisa->SetEnabled(false);
+    if (ShowsHint(EdtPesquisa)) FSearchTerm.clear();
+    Locate(FSearchTerm);
+}
+
+void TFrmGrid_Master::DpPesq1Change(TComponent*) { Locate({}); }
+
+void TFrmGrid_Master::CbPesquisaChange(TComponent*) {
+    if (CbPesquisa->ItemIndex() >= 0) Locate((*ComboValues)[CbPesquisa->ItemIndex()]);
+}
+
+void TFrmGrid_Master::ImgCancelPesqClick(TComponent*) { ClearSearch(); }
+
+void TFrmGrid_Master::DBGrdEnter(TComponent*) {
+    FinishSearch();
+    if (EdtPesquisa->Text().trimmed().isEmpty() && EdtPesquisa2->Text().trimmed().isEmpty()) ClearSearch();
+}

@@ -1,0 +1,68 @@
+#include "forms/masters/Ficha.h"
+
+#include "platform/data/DataSet.h"
+#include "platform/data/DataSource.h"
+#include "platform/rtl/Strings.h"
+#include "platform/ui/DBCtrls.h"
+#include "platform/ui/StdCtrls.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kGap = 16;
+constexpr int kLabelHeight = 18;
+constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
+
+}  // namespace
+
+TFicha::TFicha(TComponent* owner, TControl* page, TDataSource* source)
+    : FOwner(owner), FPage(page), FSource(source), FLeft(kMargin), FTop(kMargin) {}
+
+TDBEdit* TFicha::Edit(const UnicodeString& fieldName, int width) {
+    return Place(new TDBEdit(FOwner), fieldName, width, true);
+}
+
+TDBEdit* TFicha::ReadOnlyEdit(const UnicodeString& fieldName, int width) {
+    TDBEdit* edit = Edit(fieldName, width);
+    edit->SetReadOnly(true);
+    edit->SetTabStop(false);
+    return edit;
+}
+
+TDBComboBox* TFicha::Combo(const UnicodeString& fieldName, const TStringArray& items, int width) {
+    auto* combo = Place(new TDBComboBox(FOwner), fieldName, width, true);
+    for (const UnicodeString& item : items) combo->Items()->Add(item);
+    return combo;
+}
+
+TDBCheckBox* TFicha::Check(const UnicodeString& fieldName, int width) {
+    auto* check = Place(new TDBCheckBox(FOwner), fieldName, width, false);
+    check->SetCaption(FSource->DataSet()->FieldByName(fieldName)->DisplayLabel());
+    return check;
+}
+
+void TFicha::NewRow() {
+    FLeft = kMargin;
+    FTop += kRowHeight;
+}
+
+template <class T>
+T* TFicha::Place(T* control, const UnicodeString& fieldName, int width, bool labelled) {
+    const UnicodeString caption = FSource->DataSet()->FieldByName(fieldName)->DisplayLabel();
+    if (labelled) {
+        auto* label = new TLabel(FOwner);
+        label->SetParent(FPage);
+        label->SetCaption(caption);
+        label->SetBounds(FLeft, FTop, width, kLabelHeight);
+    }
+    control->SetName(u"Db"_s + fieldName);
+    control->SetParent(FPage);
+    control->SetBounds(FLeft, FTop + kLabelHeight, width, kEditHeight);
+    control->SetDataSource(FSource);
+    control->SetDataField(fieldName);
+    control->SetAccessibleName(caption);
+    FLeft += width + kGap;
+    return control;
+}

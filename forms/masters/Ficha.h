@@ -1,0 +1,51 @@
+// Lays labelled data-aware controls on a page, left to right and row by row, so that captions stand above their
+// edits on one baseline and every edit has the same height.
+//
+//     TFicha ficha(this, page, MainDS);
+//     ficha.Edit(u"NM_CLI"_s, 380);              // caption: the field's DisplayLabel
+//     ficha.Edit(u"FANTASIA"_s, 240);
+//     ficha.NewRow();
+//     ficha.Combo(u"NM_EST"_s, {u"SP"_s, u"RJ"_s}, 70);
+//
+// Controls are made in the order of the calls, which is the order of the keyboard and of the required-field check.
+#pragma once
+
+#include "platform/rtl/Types.h"
+
+class TComponent;
+class TControl;
+class TDataSource;
+class TDBCheckBox;
+class TDBComboBox;
+class TDBEdit;
+
+class TFicha {
+  public:
+    // `owner` is the form that will own the controls, `page` their parent; `source` must have its dataset already.
+    TFicha(TComponent* owner, TControl* page, TDataSource* source);
+
+    // A labelled edit of `width` pixels on `fieldName`. A field that does not exist raises the dataset's error.
+    TDBEdit* Edit(const UnicodeString& fieldName, int width);
+
+    // The same, of which the user can only read and copy.
+    TDBEdit* ReadOnlyEdit(const UnicodeString& fieldName, int width);
+
+    // A labelled list of `items` to choose from.
+    TDBComboBox* Combo(const UnicodeString& fieldName, const TStringArray& items, int width);
+
+    // A check box that stores 'S' and 'N'; its caption stands beside it, on the line of the edits.
+    TDBCheckBox* Check(const UnicodeString& fieldName, int width);
+
+    // Goes on below, at the left margin.
+    void NewRow();
+
+  private:
+    template <class T>
+    T* Place(T* control, const UnicodeString& fieldName, int width, bool labelled);
+
+    TComponent* FOwner;
+    TControl* FPage;
+    TDataSource* FSource;
+    int FLeft;
+    int FTop;
+};

@@ -1,0 +1,128 @@
+#include "platform/data/Connection.h"
+
+#include "platform/data/firebird/ErrorCodes.h"
+#include "platform/data/firebird/FbErrors.h"
+#include "platform/data/firebird/SqlRunner.h"
+#include "platform/data/ParamScanner.h"
+#include "platform/data/Query.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace fichario;
+
+namespace {
+
+AttachSettings SettingsOf(const TStrings& params) {
+    const auto value = [&](QStringView name) { return params.Values(name).trimmed(); };
+    const auto isSaid = [&](QStringView name, QStringView text) {
+        return value(name).compare(text, Qt::CaseInsensitive) == 0;
+    };
+    AttachSettings settings;
+    settings.Server = value(u"Server");
+    settings.Database = params.Values(u"Database");
+    settings.User = value(u"User_Name");
+    settings.Password = params.Values(u"Password");
+    settings.Role = value(u"RoleName");
+    settings.CharacterSet = value(u"CharacterSet");
+    if (settings.CharacterSet.isEmpty()) settings.CharacterSet = u"ISO8859_1"_s;
+    settings.Local =
+        isSaid(u"Protocol", u"Local") || (value(u"Protocol").isEmpty() && settings.Server.isEmpty());
+    if (const int size = value(u"PageSize").toInt()) settings.PageSize = size;
+    settings.ForcedWrites = !isSaid(u"ForcedWrites", u"False");
+    return settings;
+}
+
+// Values in the order of the names' first appearance, for each place of the text.
+std::vector<InputValue> InputsFor(const ScannedSql& sql, const std::vector<Variant>& values) {
+    if (values.size() != sql.Names.size()) {
+        throw EDatabaseError(u"The statement has %1 parameters, %2 values were given"_s.arg(sql.Names.size())
+                                 .arg(values.size()));
+    }
+    std::vector<InputValue> inputs;
+    for (const int place : sql.Places) inputs.push_back({values[static_cast<size_t>(place)]});
+    return inputs;
+}
+
+}  // namespace
+
+TFDCustomConnection::TFDCustomConnection(TComponent* owner) : TComponent(owner) {}
+
+TFDCustomConnection::~TFDCustomConnection() {
+    FreeOwned();
+    Close();
+    for (TFDDataSet* dataSet : FDataSets) dataSet->FConnection = nullptr;
+}
+
+// ---- opening and closing ----
+
+bool TFDCustomConnection::Connected() const {
+    return FAttachment != nullptr;
+}
+
+void TFDCustomConnection::SetConnected(bool connected) {
+    if (connected) {
+        RequireAttachment();
+    } else if (FAttachment) {
+        CloseDataSets();
+        FAttachment.reset();
+    }
+}
+
+void TFDCustomConnection::CloseDataSets() {
+    const std::vector<TFDDataSet*> dataSets = FDataSets;
+    for (TFDDataSet* dataSet : dataSets) dataSet->ConnectionClosing();
+}
+
+// A lost connection is replaced, but for the one that a host's transaction was lost with: the host must hear
+// of it and roll back.
+std::shared_ptr<Attachment> TFDCustomConnection::RequireAttachment() {
+    if (FAttachment && !FAttachment->Usable()) {
+        if (InTransaction()) throw ErrorOfCodes({kConnectionLost});
+        FAttachment.reset();
+        if (OnLost) OnLost(this);
+    }
+    if (!FAttachment) FAttachment = Attachment::Attach(SettingsOf(FParams));
+    return FAttachment;
+}
+
+void TFDCustomConnection::CreateDatabase() {
+    Close();
+    FAttachment = Attachment::Create(SettingsOf(FParams));
+}
+
+// ---- transactions ----
+
+bool TFDCustomConnection::InTransaction() const {
+    return FAttachment && FAttachment->Host();
+}
+
+void TFDCustomConnection::StartTransaction() {
+    RequireAttachment()->StartHost();
+}
+
+void TFDCustomConnection::Commit() {
+    EndTransaction(true);
+}
+
+void TFDCustomConnection::Rollback() {
+    EndTransaction(false);
+}
+
+void TFDCustomConnection::EndTransaction(bool commit) {
+    if (!InTransaction()) throw EDatabaseError(u"No transaction is active"_s);
+    const std::vector<TFDDataSet*> dataSets = FDataSets;
+    for (TFDDataSet* dataSet : dataSets) dataSet->TransactionEnding();
+    FAttachment->EndHost(commit);
+}
+
+// ---- statements ----
+
+int TFDCustomConnection::ExecSQL(const UnicodeString& sql, const std::vector<Variant>& values) {
+    const ScannedSql scanned = ScanParams(sql);
+    return static_cast<int>(ExecuteSql(*RequireAttachment(), scanned.Text, InputsFor(scanned, values)));
+}
+
+Variant TFDCustomConnection::ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values) {
+    const ScannedSql scanned = ScanParams(sql);
+    const RowStore rows = ReadRows(*RequireAttachment(), scanned.Text, InputsFor(scanned, values));
+    return rows.Count() > 0 ? rows.Value(0, 0) : Variant::Null();
+}

@@ -1,0 +1,225 @@
+// The records of a statement, one of which is current.
+//
+//     query->Open();
+//     for (query->First(); !query->Eof(); query->Next()) Use(query->FieldByName(u"NM"_s)->AsString());
+//
+//     if (query->Locate(u"ID"_s, 7, 0)) { query->Edit(); … query->Post(); }
+//
+// Rows come from the server on demand, the first page at Open, and stay here packed; a value is decoded when
+// it is read. A new record is a row like the others, at its place, until it is posted or cancelled. Controls
+// hear of everything through data sources and links (DataSource.h, DataLink.h).
+#pragma once
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+#include "platform/data/DataTypes.h"
+#include "platform/data/Errors.h"
+#include "platform/rtl/Component.h"
+#include "platform/rtl/Types.h"
+#include "platform/rtl/Variant.h"
+
+class TDataSource;
+class TField;
+struct TFieldDescription;
+namespace fichario {
+class DataEvents;
+class EditBuffer;
+class RowMatcher;
+class RowStore;
+}  // namespace fichario
+
+class TDataSet : public TComponent {
+  public:
+    explicit TDataSet(TComponent* owner);
+
+    // ---- life ----
+    bool Active() const { return FState != dsInactive; }
+    void SetActive(bool active);
+    // Runs the statement and brings its first rows; the first record becomes current. Nothing when already
+    // active. EDatabaseError, EFDError; the dataset then stays closed.
+    void Open();
+    // Cancels a pending edit and drops the rows. Fields stay. Nothing when not active.
+    void Close();
+    // Posts or cancels a pending edit (CheckBrowseMode), runs the statement again and returns to the record
+    // with the same key, or, when that is gone, to the same place.
+    void Refresh();
+    TDataSetState State() const { return FState; }
+
+    // ---- moving; each first posts or cancels a pending edit (CheckBrowseMode) ----
+    void First();
+    void Last();  // brings all rows
+    void Next();
+    void Prior();
+    // Moves `distance` records, back when negative, stopping at either end. Returns how many it moved.
+    int MoveBy(int distance);
+    // Makes a row that is here current. `row` from 0 to RowCount() - 1; EDatabaseError otherwise.
+    void MoveToRow(int row);
+    // An attempt was made to move before the first or behind the last record. Both hold when there is none.
+    bool Bof() const { return FBof; }
+    bool Eof() const { return FEof; }
+    bool IsEmpty() const;
+    // The current record's number from 1; 0 when there is none.
+    int RecNo() const { return FRow + 1; }
+    // How many records the statement has, those not yet fetched included: free when all rows are here, else
+    // one count on the server.
+    int RecordCount();
+    // Goes to the first record whose fields equal the values.
+    //   keyFields  one field name, or several separated by ';'
+    //   values     one value, or an array with one for each field
+    //   options    loCaseInsensitive: capitals are not told apart (accents always are); loPartialKey: the
+    //              fields' texts only begin with the values
+    // Fetches as it goes. False, staying where it was, when there is none or a value cannot be converted to
+    // its field's kind. EDatabaseError for an unknown field.
+    bool Locate(const UnicodeString& keyFields, const Variant& values, TLocateOptions options = 0);
+
+    // ---- rows that are here, for grids ----
+    int RowCount() const;
+    bool AllFetched() const { return FAllFetched; }
+    // Brings up to `rows` more. Returns how many came.
+    int FetchMore(int rows);
+    // The bytes that the rows here hold.
+    size_t MemoryUsed() const;
+
+    // ---- editing ----
+    void Append();  // a new record at the end
+    void Insert();  // a new record before the current one
+    void Edit();    // nothing when already editing or inserting; Insert when there is no record
+    // Writes the record. EDatabaseError, EFDError: the edit goes on with all that was typed.
+    void Post();
+    void Cancel();
+    void Delete();
+    // A value differs from what it was when the edit began (for a new record: after OnNewRecord).
+    bool Modified() const;
+    // Posts a modified record, cancels an unmodified one. EDatabaseError when not active.
+    void CheckBrowseMode();
+    // Has the controls write what was typed into their fields.
+    void UpdateRecord();
+
+    // ---- fields ----
+    const std::vector<TField*>& Fields() const { return FFields; }
+    int FieldCount() const { return static_cast<int>(FFields.size()); }
+    // Upper and lower case are the same. EDatabaseError "Field 'X' not found".
+    TField* FieldByName(const UnicodeString& name) const;
+    // Null when there is none.
+    TField* FindField(const UnicodeString& name) const;
+    // Prepares the statement without running it and makes the fields that are missing.
+    void DescribeFields();
+
+    // ---- controls ----
+    // Between the two, which nest, controls hear nothing; at the end they draw anew.
+    void DisableControls();
+    void EnableControls();
+    bool ControlsDisabled() const { return FDisabled > 0; }
+
+    // ---- events ----
+    std::function<void(TDataSet*)> BeforeOpen, AfterOpen, BeforeClose, AfterClose, BeforeInsert, AfterInsert,
+        BeforeEdit, AfterEdit, BeforePost, AfterPost, BeforeCancel, AfterCancel, BeforeDelete, AfterDelete,
+        BeforeRefresh, AfterRefresh, AfterScroll, OnNewRecord;
+
+  protected:
+    ~TDataSet() override;
+
+    // ---- what a dataset of a kind does ----
+    virtual void DoDescribe() = 0;  // prepares and calls SetColumns
+    virtual bool DoOpen() = 0;  // runs and brings the first rows: SetColumns, SetRows; false: those were all.
+                                // When it throws, the result that was open before is still whole
+    virtual void DoClose() = 0;          // drops the result; never throws
+    virtual bool DoFetch(int rows) = 0;  // appends up to `rows` to Rows(); false at the end of the data
+    virtual int DoCount() = 0;           // counts on the server
+    virtual void DoPost() = 0;           // writes the record being edited and renews its row
+    virtual void DoDelete() = 0;         // deletes the current record on the server
+    virtual QByteArray DoReadBlob(int64_t id) const = 0;
+
+    // Takes over what the statement's columns are: keeps the fields whose name and class match, makes the
+    // missing ones, frees those it made that no longer match. EDatabaseError for a field of the host's that
+    // is not there.
+    void SetColumns(const TStringArray& names, const std::vector<TFieldDescription>& described);
+    void SetRows(std::unique_ptr<fichario::RowStore> rows);
+    fichario::RowStore& Rows() const { return *FRows; }
+    int CurrentRow() const { return FRow; }
+    // The field on a column of the rows.
+    TField* FieldOfColumn(int column) const { return FFields[static_cast<size_t>(column)]; }
+    // The value being edited, when it was set; the row's own otherwise; blobs with their content.
+    Variant EditedValue(int column) const;
+    // Whether the record being edited has got a value for the column, and whether that differs from the one
+    // before.
+    bool IsAssigned(int column) const;
+    bool IsChanged(int column) const;
+    Variant RowValue(int row, int column) const;
+    void FetchAll();
+    void CheckActive() const;
+    // Closes while the kind can still act: the destructor of a kind calls it first.
+    void ShutDown();
+
+  private:
+    friend class TField;
+    friend class TDataSource;
+    friend class TRowReading;
+    friend class fichario::RowMatcher;
+    using TEvent = std::function<void(TDataSet*)>;
+
+    // Moving (DataSetMove.cpp)
+    void Settle(int row);
+    void Scrolled();
+    void FetchUntil(int row);
+    void CheckFetched(bool more);
+    std::vector<int> KeyColumns() const;
+    int FindAgain(const std::vector<Variant>& key, int near, int loaded);
+    void Reload();
+
+    // Editing (DataSetEdit.cpp)
+    void BeginInsert(bool atEnd);
+    void DropInserted();
+    void EndEditing();
+    void CheckEditing() const;
+    bool Editing() const { return FState == dsEdit || FState == dsInsert; }
+
+    // Fields (DataSetFields.cpp)
+    void AddField(TField* field);
+    void RemoveField(TField* field);
+    TField* TakeField(const UnicodeString& name, TFieldType type);
+    void DropUnmatched(const std::vector<TField*>& matched);
+    Variant ColumnValue(const TField* field) const;
+    Variant OldColumnValue(const TField* field) const;
+    void StoreColumn(TField* field, const Variant& value);
+    void FieldsChanged();
+    void AskFocus(TField* field);
+
+    void SetState(TDataSetState state);
+    void Call(const TEvent& event);
+    fichario::DataEvents* Events() const { return FDisabled > 0 ? nullptr : FEvents.get(); }
+
+    TDataSetState FState = dsInactive;
+    std::vector<TField*> FFields;
+    std::unique_ptr<fichario::RowStore> FRows;
+    std::unique_ptr<fichario::EditBuffer> FEdits;
+    std::shared_ptr<fichario::DataEvents> FEvents;  // the data sources that hear of changes
+    int FRow = -1;                                  // current row, -1: none
+    int FReadRow = -1;    // the row that fields read instead (TRowReading), -1: none
+    int FRowBefore = -1;  // current row before the insert began
+    int FDisabled = 0;
+    bool FActiveBefore = false;  // when controls were disabled
+    bool FBof = true;
+    bool FEof = true;
+    bool FAllFetched = true;
+    mutable std::unordered_map<int64_t, QByteArray> FBlobs;  // contents read lately, by identity
+};
+
+// A scope in which the dataset's fields read from `row`, one of the rows that are here, without moving: for
+// painting. A row that is not here reads as null.
+//
+//     { TRowReading reading(dataSet, row); text = field->DisplayText(); }
+class TRowReading {
+  public:
+    TRowReading(TDataSet* dataSet, int row) : FDataSet(dataSet), FBefore(dataSet->FReadRow) {
+        dataSet->FReadRow = row;
+    }
+    ~TRowReading() { FDataSet->FReadRow = FBefore; }
+    TRowReading(const TRowReading&) = delete;
+    TRowReading& operator=(const TRowReading&) = delete;
+
+  private:
+    TDataSet* FDataSet;
+    int FBefore;
+};

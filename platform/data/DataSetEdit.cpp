@@ -1,0 +1,127 @@
+// A dataset's edits: a record is changed, added, posted, cancelled, deleted.
+#include "platform/data/DataEvents.h"
+#include "platform/data/DataSet.h"
+#include "platform/data/EditBuffer.h"
+#include "platform/data/Field.h"
+#include "platform/data/firebird/RowStore.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+void TDataSet::CheckEditing() const {
+    if (!Editing()) throw EDatabaseError(u"Dataset not in edit or insert mode"_s);
+}
+
+void TDataSet::CheckBrowseMode() {
+    CheckActive();
+    if (!Editing()) return;
+    UpdateRecord();
+    Modified() ? Post() : Cancel();
+}
+
+void TDataSet::UpdateRecord() {
+    if (Editing()) FEvents->UpdateData();
+}
+
+bool TDataSet::Modified() const {
+    if (!Editing()) return false;
+    for (const auto& edit : FEdits->Values()) {
+        if (IsChanged(edit.first)) return true;
+    }
+    return false;
+}
+
+// ---- beginning ----
+
+void TDataSet::Append() {
+    BeginInsert(true);
+}
+
+void TDataSet::Insert() {
+    BeginInsert(false);
+}
+
+// All rows are here first: the open cursor would bring the new record a second time.
+void TDataSet::BeginInsert(bool atEnd) {
+    CheckBrowseMode();
+    Call(BeforeInsert);
+    FetchAll();
+    FRowBefore = FRow;
+    FRow = atEnd || FRow < 0 ? RowCount() : FRow;
+    FRows->InsertNull(FRow);
+    FBof = FEof = false;
+    FEdits->Clear();
+    FState = dsInsert;
+    try {
+        Call(OnNewRecord);
+    } catch (...) {
+        DropInserted();
+        FState = dsBrowse;
+        throw;
+    }
+    FEdits->TakeDefaults();
+    if (auto* events = Events()) {
+        events->EditingChanged();
+        events->DataSetChanged();
+    }
+    Call(AfterInsert);
+    Call(AfterScroll);
+}
+
+void TDataSet::DropInserted() {
+    FRows->Remove(FRow);
+    FEdits->Clear();
+    Settle(FRowBefore);
+}
+
+void TDataSet::Edit() {
+    if (Editing()) return;
+    CheckActive();
+    if (FRow < 0) return Insert();
+    Call(BeforeEdit);
+    FEdits->Clear();
+    SetState(dsEdit);
+    if (auto* events = Events()) events->RecordChanged(nullptr);
+    Call(AfterEdit);
+}
+
+// ---- ending ----
+
+void TDataSet::Post() {
+    CheckActive();
+    if (!Editing()) return;
+    UpdateRecord();
+    Call(BeforePost);
+    if (FState == dsInsert || Modified()) DoPost();
+    EndEditing();
+    Call(AfterPost);
+}
+
+void TDataSet::Cancel() {
+    if (!Editing()) return;
+    Call(BeforeCancel);
+    if (FState == dsInsert) DropInserted();
+    EndEditing();
+    Call(AfterCancel);
+}
+
+// Blobs are read anew: the server may give the identity of one that went to another.
+void TDataSet::EndEditing() {
+    FEdits->Clear();
+    FBlobs.clear();
+    SetState(dsBrowse);
+    if (auto* events = Events()) events->DataSetChanged();
+}
+
+void TDataSet::Delete() {
+    CheckActive();
+    if (FState == dsInsert) return Cancel();
+    if (FRow < 0) throw EDatabaseError(u"Cannot perform this operation on an empty dataset"_s);
+    Call(BeforeDelete);
+    DoDelete();
+    FRows->Remove(FRow);
+    FetchUntil(FRow);
+    Settle(FRow);
+    EndEditing();
+    Call(AfterDelete);
+    if (FRow >= 0) Call(AfterScroll);
+}

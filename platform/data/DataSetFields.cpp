@@ -1,0 +1,165 @@
+// A dataset's fields: made, matched with what the statement gives, read and written.
+#include <algorithm>
+#include "platform/data/DataEvents.h"
+#include "platform/data/DataSet.h"
+#include "platform/data/EditBuffer.h"
+#include "platform/data/Field.h"
+#include "platform/data/firebird/RowStore.h"
+#include "platform/data/firebird/WireTime.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr size_t kBlobsKept = 256;
+
+// Types whose fields are of one class.
+TFieldType ClassOf(TFieldType type) {
+    if (type == ftFixedChar) return ftString;
+    return type == ftSmallint ? ftInteger : type;
+}
+
+// A name that no column has yet.
+UnicodeString UniqueName(const TStringArray& taken, const UnicodeString& name) {
+    const auto isTaken = [&](const UnicodeString& candidate) {
+        return std::any_of(taken.begin(), taken.end(), [&](const UnicodeString& other) {
+            return other.compare(candidate, Qt::CaseInsensitive) == 0;
+        });
+    };
+    UnicodeString candidate = name;
+    for (int i = 1; isTaken(candidate); ++i) candidate = u"%1_%2"_s.arg(name).arg(i);
+    return candidate;
+}
+
+}  // namespace
+
+// ---- the list ----
+
+void TDataSet::AddField(TField* field) {
+    field->FDataSet = this;
+    field->FColumn = -1;
+    FFields.push_back(field);
+    FieldsChanged();
+}
+
+void TDataSet::RemoveField(TField* field) {
+    std::erase(FFields, field);
+    field->FDataSet = nullptr;
+    const auto events = FEvents;
+    events->FieldGone(field);
+}
+
+void TDataSet::FieldsChanged() {
+    if (auto* events = Events()) events->ActiveChanged();
+}
+
+TField* TDataSet::FindField(const UnicodeString& name) const {
+    for (TField* field : FFields) {
+        if (field->FFieldName.compare(name, Qt::CaseInsensitive) == 0) return field;
+    }
+    return nullptr;
+}
+
+TField* TDataSet::FieldByName(const UnicodeString& name) const {
+    if (TField* field = FindField(name)) return field;
+    throw EDatabaseError(u"Field '%1' not found"_s.arg(name));
+}
+
+void TDataSet::DescribeFields() {
+    if (Active()) return;
+    DoDescribe();
+    FieldsChanged();
+}
+
+// The field for a column: the one of that name and class, or a new one.
+TField* TDataSet::TakeField(const UnicodeString& name, TFieldType type) {
+    TField* field = FindField(name);
+    if (field && ClassOf(field->DataType()) == ClassOf(type)) return field;
+    if (field && !field->FAutomatic) {
+        throw EDatabaseError(u"Field '%1' is of another type than its column"_s.arg(name));
+    }
+    field = NewField(this, type);
+    field->FFieldName = name;
+    field->FAutomatic = true;
+    field->FDataSet = this;
+    return field;
+}
+
+void TDataSet::DropUnmatched(const std::vector<TField*>& matched) {
+    std::vector<TField*> gone;
+    for (TField* field : FFields) {
+        if (std::find(matched.begin(), matched.end(), field) == matched.end()) gone.push_back(field);
+    }
+    for (TField* field : gone) {
+        if (!field->FAutomatic) throw EDatabaseError(u"Field '%1' not found"_s.arg(field->FFieldName));
+    }
+    for (TField* field : gone) field->Free();
+}
+
+void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDescription>& described) {
+    TStringArray taken;
+    std::vector<TField*> matched;
+    for (size_t i = 0; i < names.size(); ++i) {
+        taken.push_back(UniqueName(taken, names[i]));
+        matched.push_back(TakeField(taken.back(), described[i].Type));
+    }
+    DropUnmatched(matched);
+    FFields = matched;
+    for (size_t i = 0; i < matched.size(); ++i) {
+        matched[i]->FColumn = static_cast<int>(i);
+        matched[i]->Describe(described[i]);
+    }
+}
+
+// ---- values ----
+
+Variant TDataSet::RowValue(int row, int column) const {
+    Variant value = FRows->Value(row, column);
+    const TFieldType type = FieldOfColumn(column)->DataType();
+    if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
+
+    const int64_t id = value.ToInt64();
+    auto known = FBlobs.find(id);
+    if (known == FBlobs.end()) {
+        if (FBlobs.size() >= kBlobsKept) FBlobs.clear();
+        known = FBlobs.emplace(id, DoReadBlob(id)).first;
+    }
+    if (type == ftBlob) return known->second;
+    return fichario::DecodeText(FRows->Layout().Encoding(column), known->second);
+}
+
+Variant TDataSet::ColumnValue(const TField* field) const {
+    const int row = FReadRow >= 0 ? FReadRow : FRow;
+    if (row < 0 || row >= RowCount() || field->FColumn < 0) return Variant::Null();
+    return row == FRow ? EditedValue(field->FColumn) : RowValue(row, field->FColumn);
+}
+
+Variant TDataSet::OldColumnValue(const TField* field) const {
+    if (FRow < 0 || field->FColumn < 0) return Variant::Null();
+    return RowValue(FRow, field->FColumn);
+}
+
+Variant TDataSet::EditedValue(int column) const {
+    const Variant* edited = FEdits->Find(column);
+    return edited ? *edited : RowValue(FRow, column);
+}
+
+bool TDataSet::IsAssigned(int column) const {
+    return FEdits->Find(column) != nullptr;
+}
+
+bool TDataSet::IsChanged(int column) const {
+    const Variant* edited = FEdits->Find(column);
+    if (!edited) return false;
+    const Variant* before = FEdits->Default(column);
+    return !(*edited == (before ? *before : RowValue(FRow, column)));
+}
+
+// Moments are kept as exactly as the server keeps them, so that the same moment typed again is no change.
+void TDataSet::StoreColumn(TField* field, const Variant& value) {
+    const bool moment = value.Kind() == vkDateTime;
+    FEdits->Set(field->FColumn,
+                moment ? Variant(fichario::FromWire(fichario::ToWire(value.ToDateTime()))) : value);
+    if (field->OnChange) field->OnChange(field);
+    if (auto* events = Events()) events->RecordChanged(field);
+}

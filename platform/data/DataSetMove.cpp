@@ -1,0 +1,187 @@
+// A dataset's current record: moving, fetching on demand, finding a record again.
+#include <algorithm>
+#include <limits>
+#include "platform/data/DataEvents.h"
+#include "platform/data/DataSet.h"
+#include "platform/data/Field.h"
+#include "platform/data/firebird/RowStore.h"
+#include "platform/data/Locate.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kPage = 64;
+constexpr int kLargestBatch = 4096;
+
+// A small result costs little, a long walk few calls.
+int BatchFor(int loaded) {
+    return std::clamp(loaded / 2, kPage, kLargestBatch);
+}
+
+}  // namespace
+
+// ---- fetching ----
+
+int TDataSet::RowCount() const {
+    return FRows->Count();
+}
+
+size_t TDataSet::MemoryUsed() const {
+    return FRows->Bytes();
+}
+
+bool TDataSet::IsEmpty() const {
+    return RowCount() == 0;
+}
+
+int TDataSet::FetchMore(int rows) {
+    if (FAllFetched || rows <= 0) return 0;
+    const int before = RowCount();
+    FAllFetched = !DoFetch(rows);
+    const int arrived = RowCount() - before;
+    if (auto* events = Events(); events && arrived > 0) events->RowsArrived();
+    return arrived;
+}
+
+void TDataSet::FetchUntil(int row) {
+    while (!FAllFetched && RowCount() <= row) FetchMore(std::max(BatchFor(RowCount()), row + 1 - RowCount()));
+}
+
+void TDataSet::FetchAll() {
+    FetchMore(std::numeric_limits<int>::max());
+}
+
+int TDataSet::RecordCount() {
+    CheckActive();
+    if (!FAllFetched) return DoCount();
+    return RowCount() - (FState == dsInsert ? 1 : 0);
+}
+
+// ---- moving ----
+
+// Makes `row`, or the nearest there is, current without a word.
+void TDataSet::Settle(int row) {
+    FRow = std::min(row, RowCount() - 1);
+    FBof = FEof = FRow < 0;
+}
+
+void TDataSet::Scrolled() {
+    if (auto* events = Events()) events->Scrolled();
+    if (FRow >= 0) Call(AfterScroll);
+}
+
+void TDataSet::First() {
+    CheckBrowseMode();
+    Settle(0);
+    FBof = true;
+    Scrolled();
+}
+
+void TDataSet::Last() {
+    CheckBrowseMode();
+    FetchAll();
+    Settle(RowCount() - 1);
+    FEof = true;
+    Scrolled();
+}
+
+void TDataSet::Next() {
+    MoveBy(1);
+}
+
+void TDataSet::Prior() {
+    MoveBy(-1);
+}
+
+int TDataSet::MoveBy(int distance) {
+    CheckBrowseMode();
+    if (FRow < 0 || distance == 0) return 0;
+    const int from = FRow;
+    const int64_t target = int64_t{from} + distance;
+    if (distance > 0)
+        FetchUntil(static_cast<int>(std::min<int64_t>(target, std::numeric_limits<int>::max() - 1)));
+    Settle(static_cast<int>(std::clamp<int64_t>(target, 0, RowCount() - 1)));
+    FBof = target < 0;
+    FEof = target >= RowCount();
+    if (FRow != from) Scrolled();
+    return FRow - from;
+}
+
+void TDataSet::MoveToRow(int row) {
+    CheckActive();
+    if (row < 0 || row >= RowCount()) throw EDatabaseError(u"Row %1 is not here"_s.arg(row));
+    if (row == FRow) return;
+    CheckBrowseMode();
+    Settle(row);
+    Scrolled();
+}
+
+bool TDataSet::Locate(const UnicodeString& keyFields, const Variant& values, TLocateOptions options) {
+    CheckBrowseMode();
+    const auto matcher = fichario::RowMatcher::Make(*this, FRows->Layout(), keyFields, values, options);
+    if (!matcher) return false;
+    for (int row = 0;; ++row) {
+        FetchUntil(row);
+        if (row >= RowCount()) return false;
+        if (!matcher->Matches(*this, *FRows, row)) continue;
+        Settle(row);
+        Scrolled();
+        return true;
+    }
+}
+
+// ---- finding a record again ----
+
+std::vector<int> TDataSet::KeyColumns() const {
+    std::vector<int> columns;
+    for (int i = 0; i < FieldCount(); ++i) {
+        if (FieldOfColumn(i)->ProviderFlags() & pfInKey) columns.push_back(i);
+    }
+    return columns;
+}
+
+// The row with that key among the first `loaded` rows, looked for from `near` outwards; `near` when there is
+// none.
+int TDataSet::FindAgain(const std::vector<Variant>& key, int near, int loaded) {
+    FetchUntil(loaded - 1);
+    const std::vector<int> columns = KeyColumns();
+    const auto matches = [&](int row) {
+        if (row < 0 || row >= RowCount()) return false;
+        for (size_t i = 0; i < columns.size(); ++i) {
+            if (!(FRows->Value(row, columns[i]) == key[i])) return false;
+        }
+        return true;
+    };
+    if (columns.empty() || columns.size() != key.size()) return near;
+    for (int distance = 0; distance < RowCount(); ++distance) {
+        if (matches(near - distance)) return near - distance;
+        if (matches(near + distance)) return near + distance;
+    }
+    return near;
+}
+
+void TDataSet::Reload() {
+    const int row = FRow, loaded = RowCount();
+    std::vector<Variant> key;
+    if (row >= 0) {
+        for (const int column : KeyColumns()) key.push_back(FRows->Value(row, column));
+    }
+    FAllFetched = !DoOpen();
+    Settle(row < 0 ? 0 : FindAgain(key, row, loaded));
+}
+
+void TDataSet::Refresh() {
+    CheckBrowseMode();
+    Call(BeforeRefresh);
+    DisableControls();
+    try {
+        Reload();
+    } catch (...) {
+        EnableControls();
+        throw;
+    }
+    EnableControls();
+    Call(AfterRefresh);
+    if (FRow >= 0) Call(AfterScroll);
+}

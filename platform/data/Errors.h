@@ -1,0 +1,47 @@
+// Exceptions of the data layer.
+//
+//     try { query->Post(); }
+//     catch (const EFDError& error) {
+//         if (error.Has(335544665)) FocusKeyField();     // the new key exists already
+//         if (!error.ConnectionUsable) OfferRetry();
+//         throw;                                         // Message is a sentence for the user
+//     }
+#pragma once
+#include <cstdint>
+#include <vector>
+#include "platform/rtl/Exceptions.h"
+#include "platform/rtl/Types.h"
+
+// A misuse of a dataset or field (English), or a record that cannot be written (Portuguese).
+class EDatabaseError : public Exception {
+  public:
+    using Exception::Exception;
+};
+
+// A failure that the database client or server reported. `Message` is a Portuguese sentence that says what to
+// do; what has no sentence of its own shows the server's text.
+class EFDError : public EDatabaseError {
+  public:
+    EFDError(const UnicodeString& message, std::vector<int64_t> codes);
+
+    // The first code of the list, one of the client library's isc_… numbers; 0 when there is none.
+    int64_t Code() const;
+
+    // Whether any code of the list is `code`. The telling one is often the second: a row locked by another
+    // user reports 335544336 first and 335544451 after it.
+    bool Has(int64_t code) const;
+
+    const std::vector<int64_t>& Codes() const { return FCodes; }
+
+    // The same error with another sentence for the user.
+    EFDError Saying(const UnicodeString& message) const;
+
+    UnicodeString ServerText;  // the server's own text, several lines
+    UnicodeString
+        Constraint;          // the violated constraint's, index's or column's name; empty when none was named
+    UnicodeString SqlState;  // five characters, such as 23000
+    bool ConnectionUsable = true;  // false: the connection is lost and must be opened anew
+
+  private:
+    std::vector<int64_t> FCodes;
+};

@@ -1,0 +1,78 @@
+#include "platform/data/PreparedQuery.h"
+
+#include <cmath>
+
+#include "platform/data/firebird/Metadata.h"
+
+namespace fichario {
+
+namespace {
+
+// In digits that a double's text of 15 digits writes exactly.
+double LargestOf(const ColumnInfo& column) {
+    const double unit = std::pow(10.0, column.Scale);
+    switch (column.Kind) {
+        case WireKind::Short: return 32767 / unit;
+        case WireKind::Long: return 2147483647 / unit;
+        case WireKind::Int64: return 9.22337203685477e18 / unit;
+        default: return 0;
+    }
+}
+
+}  // namespace
+
+PreparedQuery::PreparedQuery(std::shared_ptr<Attachment> attachment, const UnicodeString& sql)
+    : FAttachment(std::move(attachment)),
+      FSql(ScanParams(sql)),
+      FShape(FSql.Text),
+      FStatement(FAttachment->Prepare(FSql.Text)) {
+    Learn();
+}
+
+void PreparedQuery::Learn() {
+    if (FShape.IsJoin()) FStatement->DescribeAliases();
+    FColumns = FStatement->Columns();
+    FInputs = FStatement->Inputs();
+    FHasCursor = FStatement->HasCursor();
+}
+
+StatementLease PreparedQuery::Take() {
+    if (!FStatement) {
+        FStatement = FAttachment->Prepare(FSql.Text);
+        Learn();
+    }
+    return std::move(FStatement);
+}
+
+bool PreparedQuery::IsOf(const ColumnInfo& column, const UnicodeString& table) const {
+    if (column.BaseTable.isEmpty() || column.BaseTable != table) return false;
+    return column.BaseAlias.isEmpty() || table != FShape.MainTable() ||
+           column.BaseAlias == FShape.MainAlias();
+}
+
+TFieldDescription PreparedQuery::Describe(const ColumnInfo& column, const UnicodeString& table) const {
+    TFieldDescription description;
+    description.Type = FieldTypeOf(column);
+    const bool text = column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
+    description.Size = text ? column.Characters : column.Scale;
+    description.Largest = LargestOf(column);
+    description.BaseColumn = column.BaseColumn;
+    description.BaseTable = column.BaseTable;
+    if (!IsOf(column, table)) return description;
+
+    const TableInfo& known = FAttachment->Tables().Table(table);
+    if (known.InKey(column.BaseColumn)) description.ProviderFlags |= pfInKey;
+    if (const TableColumn* facts = known.Find(column.BaseColumn)) {
+        description.Required = facts->NotNull && !facts->HasDefault && !facts->Computed && !facts->Identity;
+        description.ReadOnly = facts->Computed;
+    }
+    return description;
+}
+
+std::vector<TFieldDescription> PreparedQuery::Describe(const UnicodeString& table) const {
+    std::vector<TFieldDescription> descriptions;
+    for (const ColumnInfo& column : FColumns) descriptions.push_back(Describe(column, table));
+    return descriptions;
+}
+
+}  // namespace fichario

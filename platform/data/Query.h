@@ -1,0 +1,118 @@
+// A dataset on an SQL statement.
+//
+//     auto* query = new TFDQuery(owner);
+//     query->SetConnection(connection);
+//     query->SQL()->SetText(u"SELECT ID, NM FROM CLIENTE WHERE NM STARTING WITH :NM"_s);
+//     query->ParamByName(u"NM"_s)->SetAsString(u"MAR"_s);
+//     query->Open();
+//
+// Records can be written when the statement is a single SELECT whose main table (the first of FROM) has a key
+// among the columns: changed columns of that table go to it, and the record is then read again.
+#pragma once
+#include <memory>
+#include "platform/data/DataSet.h"
+#include "platform/data/Params.h"
+#include "platform/rtl/Strings.h"
+
+class TFDCustomConnection;
+namespace fichario {
+class Cursor;
+class PreparedQuery;
+struct InputValue;
+struct WriteColumn;
+}  // namespace fichario
+
+// A dataset on a connection.
+class TFDDataSet : public TDataSet {
+  public:
+    TFDCustomConnection* Connection() const { return FConnection; }
+    // Closes the dataset.
+    void SetConnection(TFDCustomConnection* connection);
+
+  protected:
+    explicit TFDDataSet(TComponent* owner) : TDataSet(owner) {}
+    ~TFDDataSet() override;
+    // EDatabaseError "Connection not assigned".
+    TFDCustomConnection& RequireConnection() const;
+    // The connection is about to close or a transaction on it to end.
+    virtual void ConnectionClosing() = 0;
+    virtual void TransactionEnding() = 0;
+
+  private:
+    friend class TFDCustomConnection;
+    TFDCustomConnection* FConnection = nullptr;
+};
+
+// A dataset whose records can be written to a relational database.
+class TFDRdbmsDataSet : public TFDDataSet {
+  public:
+    // The table that posts and deletions go to: what the host set, else the statement's main table.
+    UnicodeString UpdateTable() const;
+    // Empty: the main table again. Only while closed.
+    void SetUpdateTable(const UnicodeString& table) { FUpdateTable = table; }
+
+  protected:
+    using TFDDataSet::TFDDataSet;
+    ~TFDRdbmsDataSet() override = default;
+    virtual UnicodeString MainTable() const = 0;
+
+  private:
+    UnicodeString FUpdateTable;
+};
+
+class TFDCustomQuery : public TFDRdbmsDataSet {
+  public:
+    explicit TFDCustomQuery(TComponent* owner);
+
+    // The statement. A change closes the dataset; parameters of the same name keep their values, fields stay.
+    TStrings* SQL() { return &FSQL; }
+    TFDParams& Params() { return FParams; }
+    // EDatabaseError "Parameter 'X' not found".
+    TFDParam* ParamByName(const UnicodeString& name) const { return FParams.ParamByName(name); }
+    TFDParam* FindParam(const UnicodeString& name) const { return FParams.FindParam(name); }
+
+    // Prepares the statement on the server.
+    void Prepare();
+    // Executes a statement that is not a SELECT. Returns how many records it changed. EFDError.
+    int ExecSQL();
+
+  protected:
+    ~TFDCustomQuery() override;
+    void DoDescribe() override;
+    bool DoOpen() override;
+    void DoClose() override;
+    bool DoFetch(int rows) override;
+    int DoCount() override;
+    void DoPost() override;
+    void DoDelete() override;
+    QByteArray DoReadBlob(int64_t id) const override;
+    void ConnectionClosing() override;
+    void TransactionEnding() override;
+    UnicodeString MainTable() const override;
+
+  private:
+    void SQLChanged();
+    fichario::PreparedQuery& RequirePrepared();
+    void TakeColumns();
+    void RequireWriting();
+    std::vector<fichario::InputValue> Inputs() const;
+    bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor);
+    std::vector<fichario::WriteColumn> WriteColumns() const;
+    void RenewRow(const std::vector<fichario::WriteColumn>& columns);
+    bool ReadAgain(const std::vector<fichario::WriteColumn>& columns);
+    fichario::RowStore ReadWritten(const std::vector<fichario::WriteColumn>& columns);
+    void TakeValues(const std::vector<fichario::WriteColumn>& columns, const fichario::RowStore& written);
+
+    TStringList FSQL;
+    TFDParams FParams;
+    std::unique_ptr<fichario::PreparedQuery> FPrepared;
+    std::unique_ptr<fichario::Cursor> FCursor;
+};
+
+class TFDQuery : public TFDCustomQuery {
+  public:
+    using TFDCustomQuery::TFDCustomQuery;
+
+  protected:
+    ~TFDQuery() override = default;
+};

@@ -1,0 +1,14 @@
+// Blobs whole, in segments of a size that every server takes rightly.
+#pragma once
+#include "platform/data/firebird/Transaction.h"
+
+namespace fichario {
+
+// Writes a new blob. Returns its identity, good in this transaction and, once stored in a record, as long as
+// that lives.
+int64_t WriteBlob(Attachment& attachment, Transaction& transaction, const QByteArray& bytes);
+
+// The blob's content. EFDError.
+QByteArray ReadBlob(Attachment& attachment, Transaction& transaction, int64_t id);
+
+}  // namespace fichario

@@ -1,0 +1,43 @@
+// The rows of an executed SELECT, brought in batches.
+//
+//     Cursor cursor(attachment, std::move(statement), attachment->Reading(), input);
+//     while (!cursor.AtEnd()) cursor.Fetch(store, 1000);
+#pragma once
+#include <exception>
+#include "platform/data/firebird/InputMessage.h"
+#include "platform/data/firebird/RowStore.h"
+
+namespace Firebird {
+class IResultSet;
+}
+
+namespace fichario {
+
+class Cursor {
+  public:
+    // Executes in `transaction`, which it keeps. EFDError.
+    Cursor(std::shared_ptr<Attachment> attachment, StatementLease statement,
+           std::shared_ptr<Transaction> transaction, InputMessage& input);
+    ~Cursor();
+    Cursor(const Cursor&) = delete;
+    Cursor& operator=(const Cursor&) = delete;
+
+    // Appends up to `rows` rows to `store`. Returns how many; AtEnd() holds when there are no more. After a
+    // failure every further call fails the same way: what the client answers then would look like the end of
+    // the data.
+    int Fetch(RowStore& store, int rows);
+    bool AtEnd() const { return !FHandle; }
+    const std::shared_ptr<Transaction>& InTransaction() const { return FTransaction; }
+
+  private:
+    void Close();
+
+    std::shared_ptr<Attachment> FAttachment;
+    std::shared_ptr<Transaction> FTransaction;
+    StatementLease FStatement;
+    Firebird::IResultSet* FHandle = nullptr;
+    std::vector<uint8_t> FRow;
+    std::exception_ptr FFailure;
+};
+
+}  // namespace fichario

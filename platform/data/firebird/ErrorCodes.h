@@ -1,0 +1,10 @@
+// The server's error numbers that code of this room decides by.
+#pragma once
+#include <cstdint>
+
+namespace fichario {
+
+constexpr int64_t kReadOnlyTransaction = 335544361;  // a write in the transaction that only reads
+constexpr int64_t kConnectionLost = 335544856;       // the server or somebody on it ended the connection
+
+}  // namespace fichario

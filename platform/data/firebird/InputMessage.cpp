@@ -1,0 +1,162 @@
+#include "platform/data/firebird/InputMessage.h"
+
+#include <algorithm>
+#include <cstring>
+#include "platform/data/firebird/Blob.h"
+#include "platform/data/firebird/FbApi.h"
+#include "platform/data/firebird/InputValues.h"
+#include "platform/data/firebird/WireTime.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fichario {
+
+namespace {
+
+constexpr qsizetype kLongestText = 32000;  // longer ones go through a blob
+
+template <class T>
+QByteArray BytesOf(const T& value) {
+    return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+QByteArray Counted(const QByteArray& text) {
+    return BytesOf(static_cast<uint16_t>(text.size())) + text;
+}
+
+struct TimeBytes {
+    unsigned Type;
+    QByteArray Bytes;
+};
+
+TimeBytes TimeBytesOf(WireKind kind, TDateTime value) {
+    const WireStamp stamp = ToWire(value);
+    if (kind == WireKind::Date) return {SQL_TYPE_DATE, BytesOf(stamp.Days)};
+    if (kind == WireKind::Time) return {SQL_TYPE_TIME, BytesOf(stamp.Ticks)};
+    return {SQL_TIMESTAMP, BytesOf(stamp)};
+}
+
+// Pairs of surrogates are one character to the server.
+qsizetype CharactersIn(QStringView text) {
+    return std::count_if(text.begin(), text.end(), [](QChar c) { return !c.isLowSurrogate(); });
+}
+
+bool IsText(const ColumnInfo& column) {
+    return column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
+}
+
+}  // namespace
+
+InputMessage::InputMessage(Attachment& attachment, const ColumnList& described,
+                           const std::vector<InputValue>& values)
+    : FAttachment(attachment) {
+    if (described.size() != values.size()) {
+        throw EDatabaseError(u"The statement has %1 parameters, %2 values were given"_s.arg(described.size())
+                                 .arg(values.size()));
+    }
+    for (size_t i = 0; i < values.size(); ++i) FParts.push_back(PartOf(i, described[i], values[i]));
+}
+
+InputMessage::~InputMessage() {
+    if (FFormat) FFormat->release();
+}
+
+InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& described,
+                                          const UnicodeString& text) {
+    const TextEncoding encoding = IsText(described) ? described.Encoding : FAttachment.Encoding();
+    const std::optional<QByteArray> bytes = EncodeText(encoding, text);
+    const bool blob = described.Kind == WireKind::Blob;
+    const bool tooLong = IsText(described) && CharactersIn(text) > described.Characters;
+    if (!bytes) {
+        FMisfit = fichario::Misfit{place, FirstForeign(encoding, text), 0};
+    } else if (tooLong || (!blob && bytes->size() > kLongestText)) {
+        FMisfit = fichario::Misfit{
+            place, {}, IsText(described) ? described.Characters : static_cast<int>(kLongestText)};
+    } else if (described.Kind == WireKind::NullTest) {
+        return Part::Of(0, {});
+    } else if (blob && bytes->size() > kLongestText) {
+        return Part::OfBlob(*bytes);
+    } else {
+        Part part = Part::Of(SQL_VARYING, Counted(*bytes));
+        part.Foreign = !IsText(described);
+        return part;
+    }
+    return {};
+}
+
+InputMessage::Part InputMessage::DecimalPart(const Decimal& value) {
+    Part part = Part::Of(SQL_INT64, BytesOf(value.Unscaled));
+    part.Scale = -value.Scale;
+    return part;
+}
+
+InputMessage::Part InputMessage::PartOf(size_t place, const ColumnInfo& described, const InputValue& input) {
+    const Variant value = MeantValue(described, input);
+    if (value.IsNull()) return {};
+    if (described.Kind == WireKind::NullTest) return Part::Of(0, {});
+    switch (value.Kind()) {
+        case vkBoolean: return Part::Of(SQL_BOOLEAN, BytesOf(static_cast<uint8_t>(value.ToBool())));
+        case vkInteger: return Part::Of(SQL_INT64, BytesOf(value.ToInt64()));
+        case vkFloat: return Part::Of(SQL_DOUBLE, BytesOf(value.ToDouble()));
+        case vkCurrency:
+        case vkDecimal: return DecimalPart(value.ToDecimal());
+        case vkDateTime: {
+            const TimeBytes time = TimeBytesOf(MeantTimeKind(described, input), value.ToDateTime());
+            return Part::Of(time.Type, time.Bytes);
+        }
+        case vkText: return TextPart(place, described, value.ToText());
+        case vkBytes:
+            if (described.Kind == WireKind::Blob) return Part::OfBlob(value.ToBytes());
+            return Part::Of(SQL_VARYING, Counted(value.ToBytes()));
+        default: throw EDatabaseError(u"An array cannot be a parameter"_s);
+    }
+}
+
+void InputMessage::Build(const Statement& statement, Transaction& transaction) {
+    if (FParts.empty()) return;
+    for (Part& part : FParts) {
+        if (part.Blob) part.Bytes = BytesOf(WriteBlob(FAttachment, transaction, part.Bytes));
+    }
+    FAttachment.Call(CallKind::Execute, [&](Firebird::ThrowStatusWrapper& status) {
+        if (FFormat) FFormat->release();
+        FFormat = nullptr;
+        Firebird::IMetadataBuilder* builder = statement.InputFormat()->getBuilder(&status);
+        try {
+            SetTypes(status, *builder);
+            FFormat = builder->getMetadata(&status);
+        } catch (...) {
+            builder->release();
+            throw;
+        }
+        builder->release();
+        Lay(status);
+    });
+}
+
+void InputMessage::SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMetadataBuilder& builder) {
+    for (unsigned i = 0; i < FParts.size(); ++i) {
+        const Part& part = FParts[i];
+        if (part.Type == 0) continue;
+        const auto length = static_cast<unsigned>(part.Bytes.size());
+        builder.setType(&status, i, part.Type | 1u);
+        builder.setLength(&status, i, part.Type == SQL_VARYING ? std::max(1u, length - 2) : length);
+        builder.setScale(&status, i, part.Scale);
+        if (part.Type != SQL_VARYING && part.Type != SQL_BLOB) builder.setSubType(&status, i, 0);
+        if (part.Foreign) builder.setCharSet(&status, i, FAttachment.CharacterSet());
+    }
+}
+
+void InputMessage::Lay(Firebird::ThrowStatusWrapper& status) {
+    FBytes.assign(FFormat->getMessageLength(&status), 0);
+    for (unsigned i = 0; i < FParts.size(); ++i) {
+        const Part& part = FParts[i];
+        const int16_t null = part.Null ? -1 : 0;
+        std::memcpy(FBytes.data() + FFormat->getNullOffset(&status, i), &null, sizeof null);
+        if (!part.Bytes.isEmpty()) {
+            std::memcpy(FBytes.data() + FFormat->getOffset(&status, i), part.Bytes.constData(),
+                        static_cast<size_t>(part.Bytes.size()));
+        }
+    }
+}
+
+}  // namespace fichario

@@ -1,0 +1,80 @@
+// The parameters of one execution: each value goes to the server as the kind it has, not as the kind
+// described.
+//
+//     InputMessage input(attachment, statement.Inputs(), values);
+//     if (input.Misfit()) …                    // a text that no record can hold
+#pragma once
+#include <optional>
+#include "platform/data/firebird/Columns.h"
+#include "platform/data/firebird/Statement.h"
+#include "platform/rtl/Variant.h"
+
+namespace Firebird {
+class IMetadataBuilder;
+}
+
+namespace fichario {
+
+// A value and the kind it shall be sent as; ftUnknown: its own.
+struct InputValue {
+    Variant Value;
+    TFieldType Type = ftUnknown;
+};
+
+// A text that its place cannot hold.
+struct Misfit {
+    size_t Place;             // from 0
+    UnicodeString Character;  // the character that the character set lacks; empty: the text is too long
+    int Limit;                // the characters that fit
+};
+
+class InputMessage {
+  public:
+    // `values` as many as `described`, else EDatabaseError. A text for a number or date is read by
+    // FormatSettings: EConvertError when it is none.
+    InputMessage(Attachment& attachment, const ColumnList& described, const std::vector<InputValue>& values);
+    ~InputMessage();
+    InputMessage(const InputMessage&) = delete;
+    InputMessage& operator=(const InputMessage&) = delete;
+
+    const std::optional<fichario::Misfit>& Misfit() const { return FMisfit; }
+
+    // Writes blobs in `transaction` and lays the message out. Statement and cursor call it before they
+    // execute.
+    void Build(const Statement& statement, Transaction& transaction);
+    // Null without parameters.
+    Firebird::IMessageMetadata* Format() const { return FFormat; }
+    void* Bytes() { return FBytes.empty() ? nullptr : FBytes.data(); }
+
+  private:
+    static constexpr unsigned kBlobType = 520;
+
+    // A value ready for the wire.
+    struct Part {
+        unsigned Type = 0;  // the client's number; 0: as described, which is right for null
+        int Scale = 0;
+        QByteArray Bytes;
+        bool Null = true;
+        bool Blob = false;     // Bytes go into a blob whose identity is sent
+        bool Foreign = false;  // a text for a place that is described as something else
+
+        static Part Of(unsigned type, const QByteArray& bytes) {
+            return {type, 0, bytes, false, false, false};
+        }
+        static Part OfBlob(const QByteArray& bytes) { return {kBlobType, 0, bytes, false, true, false}; }
+    };
+
+    Part PartOf(size_t place, const ColumnInfo& described, const InputValue& value);
+    static Part DecimalPart(const Decimal& value);
+    Part TextPart(size_t place, const ColumnInfo& described, const UnicodeString& text);
+    void SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMetadataBuilder& builder);
+    void Lay(Firebird::ThrowStatusWrapper& status);
+
+    Attachment& FAttachment;
+    std::vector<Part> FParts;
+    std::optional<fichario::Misfit> FMisfit;
+    Firebird::IMessageMetadata* FFormat = nullptr;
+    std::vector<uint8_t> FBytes;
+};
+
+}  // namespace fichario

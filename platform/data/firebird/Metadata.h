@@ -1,0 +1,40 @@
+// What the database knows of tables and the message descriptions do not tell: keys, required and computed
+// columns. Read once a table.
+#pragma once
+#include <map>
+#include "platform/data/firebird/Attachment.h"
+
+namespace fichario {
+
+struct TableColumn {
+    bool NotNull = false;
+    bool HasDefault = false;
+    bool Computed = false;  // or otherwise not writable
+    bool Identity = false;  // the server numbers it
+};
+
+struct TableInfo {
+    TStringArray Key;  // columns of the primary key, in its order; empty: none
+    std::map<UnicodeString, TableColumn> Columns;
+
+    bool InKey(const UnicodeString& column) const;
+    // Null for a column it does not have.
+    const TableColumn* Find(const UnicodeString& column) const;
+};
+
+class Metadata {
+  public:
+    explicit Metadata(Attachment& attachment) : FAttachment(attachment) {}
+
+    // A table or view by the name the server keeps it under. One that does not exist has no columns.
+    // EFDError.
+    const TableInfo& Table(const UnicodeString& name);
+
+  private:
+    TableInfo Read(const UnicodeString& name);
+
+    Attachment& FAttachment;
+    std::map<UnicodeString, TableInfo> FTables;
+};
+
+}  // namespace fichario

@@ -1,0 +1,219 @@
+#include "platform/data/firebird/RowLayout.h"
+
+#include <algorithm>
+#include <cstring>
+#include "platform/data/firebird/WireTime.h"
+
+namespace fichario {
+
+namespace {
+
+template <class T>
+T Read(const uint8_t* place) {
+    T value;
+    std::memcpy(&value, place, sizeof value);
+    return value;
+}
+
+uint8_t FixedSize(WireKind kind) {
+    switch (kind) {
+        case WireKind::Boolean: return 1;
+        case WireKind::Short: return 2;
+        case WireKind::Long:
+        case WireKind::Float:
+        case WireKind::Date:
+        case WireKind::Time: return 4;
+        case WireKind::NullTest: return 0;
+        default: return 8;
+    }
+}
+
+// Sizes known to the compiler become single moves.
+void CopyFixed(uint8_t* to, const uint8_t* from, uint8_t size) {
+    switch (size) {
+        case 1: *to = *from; break;
+        case 2: std::memcpy(to, from, 2); break;
+        case 4: std::memcpy(to, from, 4); break;
+        case 8: std::memcpy(to, from, 8); break;
+        default: break;
+    }
+}
+
+uint32_t WithoutTrailingBlanks(const uint8_t* text, uint32_t length) {
+    while (length > 0 && text[length - 1] == ' ') --length;
+    return length;
+}
+
+Variant Number(int64_t value, int scale) {
+    return scale > 0 ? Variant(Decimal{value, scale}) : Variant(value);
+}
+
+Variant FixedValue(WireKind kind, int scale, const uint8_t* at) {
+    switch (kind) {
+        case WireKind::Short: return Number(Read<int16_t>(at), scale);
+        case WireKind::Long: return Number(Read<int32_t>(at), scale);
+        case WireKind::Int64: return Number(Read<int64_t>(at), scale);
+        case WireKind::Float: return static_cast<double>(Read<float>(at));
+        case WireKind::Double: return Read<double>(at);
+        case WireKind::Date: return FromWire(WireStamp{Read<int32_t>(at), 0});
+        case WireKind::Time: return TimeFromWire(Read<uint32_t>(at));
+        case WireKind::Timestamp: return FromWire(Read<WireStamp>(at));
+        case WireKind::Boolean: return *at != 0;
+        case WireKind::Blob: return Read<int64_t>(at);
+        default: return Variant::Null();
+    }
+}
+
+template <class T>
+void Write(uint8_t* place, T value) {
+    std::memcpy(place, &value, sizeof value);
+}
+
+// The value as a whole number of the column's smallest unit.
+int64_t UnitsOf(const Variant& value, int scale) {
+    return scale > 0 ? value.ToDecimal().Rescale(scale).Unscaled : value.ToInt64();
+}
+
+void PutFixed(WireKind kind, int scale, const Variant& value, uint8_t* at) {
+    switch (kind) {
+        case WireKind::Short: return Write(at, static_cast<int16_t>(UnitsOf(value, scale)));
+        case WireKind::Long: return Write(at, static_cast<int32_t>(UnitsOf(value, scale)));
+        case WireKind::Blob:
+        case WireKind::Int64: return Write(at, UnitsOf(value, scale));
+        case WireKind::Float: return Write(at, static_cast<float>(value.ToDouble()));
+        case WireKind::Double: return Write(at, value.ToDouble());
+        case WireKind::Date: return Write(at, ToWire(value.ToDateTime()).Days);
+        case WireKind::Time: return Write(at, ToWire(value.ToDateTime()).Ticks);
+        case WireKind::Timestamp: return Write(at, ToWire(value.ToDateTime()));
+        case WireKind::Boolean: return Write(at, static_cast<uint8_t>(value.ToBool()));
+        default: return;
+    }
+}
+
+}  // namespace
+
+RowLayout::Place RowLayout::PlaceOf(const ColumnInfo& column) {
+    Place place{column.Kind,
+                column.Encoding,
+                static_cast<uint8_t>(column.Scale),
+                0,
+                column.Offset,
+                column.NullOffset,
+                column.Length,
+                0};
+    place.Size = place.IsText() ? (column.Length > 255 ? 2 : 1) : FixedSize(column.Kind);
+    return place;
+}
+
+RowLayout::RowLayout(const ColumnList& columns) {
+    FNullBytes = static_cast<uint32_t>(columns.size() + 7) / 8;
+    FFixedEnd = FNullBytes;
+    for (const ColumnInfo& column : columns) {
+        Place place = PlaceOf(column);
+        if (place.IsText()) {
+            place.Packed = static_cast<uint32_t>(FTexts.size());
+            FTexts.push_back(static_cast<uint32_t>(FPlaces.size()));
+            FMaxBytes += place.Size + place.Length;
+        } else {
+            place.Packed = FFixedEnd;
+            FFixedEnd += place.Size;
+        }
+        FPlaces.push_back(place);
+    }
+    FMaxBytes += FFixedEnd;
+}
+
+uint8_t* RowLayout::PutText(const Place& place, const uint8_t* text, uint32_t length, uint8_t* out) {
+    *out++ = static_cast<uint8_t>(length);
+    if (place.Size == 2) *out++ = static_cast<uint8_t>(length >> 8);
+    std::memcpy(out, text, length);
+    return out + length;
+}
+
+uint8_t* RowLayout::PackText(const Place& place, const uint8_t* message, bool null, uint8_t* out) {
+    const uint8_t* text = message + place.Offset;
+    if (null) return PutText(place, text, 0, out);
+    if (place.Kind == WireKind::Text)
+        return PutText(place, text, WithoutTrailingBlanks(text, place.Length), out);
+    const uint32_t length = std::min<uint32_t>(Read<uint16_t>(text), place.Length);
+    return PutText(place, text + sizeof(uint16_t), length, out);
+}
+
+uint8_t* RowLayout::Pack(const uint8_t* message, uint8_t* row) const {
+    std::memset(row, 0, FNullBytes);
+    uint8_t* texts = row + FFixedEnd;
+    unsigned column = 0;
+    for (const Place& place : FPlaces) {
+        const bool null = Read<int16_t>(message + place.NullOffset) != 0;
+        row[column >> 3] |= static_cast<uint8_t>(null << (column & 7));
+        ++column;
+        if (place.IsText()) {
+            texts = PackText(place, message, null, texts);
+        } else {
+            CopyFixed(row + place.Packed, message + place.Offset, place.Size);
+        }
+    }
+    return texts;
+}
+
+uint8_t* RowLayout::PackNull(uint8_t* row) const {
+    std::memset(row, 0xFF, FNullBytes);
+    uint8_t* end = row + FFixedEnd;
+    for (const uint32_t text : FTexts) {
+        for (uint8_t i = 0; i < FPlaces[text].Size; ++i) *end++ = 0;
+    }
+    return end;
+}
+
+uint8_t* RowLayout::PackValues(const std::vector<Variant>& values, uint8_t* row) const {
+    PackNull(row);
+    uint8_t* texts = row + FFixedEnd;
+    for (size_t i = 0; i < FPlaces.size(); ++i) {
+        const Place& place = FPlaces[i];
+        const bool null = values[i].IsNull();
+        if (!null) row[i >> 3] &= static_cast<uint8_t>(~(1u << (i & 7)));
+        if (place.IsText()) {
+            const QByteArray text =
+                null ? QByteArray() : EncodeText(place.Encoding, values[i].ToText()).value_or(QByteArray());
+            const auto length = std::min<uint32_t>(static_cast<uint32_t>(text.size()), place.Length);
+            texts = PutText(place, reinterpret_cast<const uint8_t*>(text.constData()), length, texts);
+        } else if (!null) {
+            PutFixed(place.Kind, place.Scale, values[i], row + place.Packed);
+        }
+    }
+    return texts;
+}
+
+uint32_t RowLayout::TakeLength(const Place& place, const uint8_t*& at) {
+    const uint32_t length = place.Size == 2 ? Read<uint16_t>(at) : *at;
+    at += place.Size;
+    return length;
+}
+
+size_t RowLayout::Bytes(const uint8_t* row) const {
+    const uint8_t* at = row + FFixedEnd;
+    for (const uint32_t text : FTexts) {
+        const uint32_t length = TakeLength(FPlaces[text], at);
+        at += length;
+    }
+    return static_cast<size_t>(at - row);
+}
+
+std::span<const uint8_t> RowLayout::Text(const uint8_t* row, int column) const {
+    const uint8_t* at = row + FFixedEnd;
+    for (uint32_t i = 0;; ++i) {
+        const uint32_t length = TakeLength(FPlaces[FTexts[i]], at);
+        if (i == FPlaces[static_cast<size_t>(column)].Packed) return {at, length};
+        at += length;
+    }
+}
+
+Variant RowLayout::Value(const uint8_t* row, int column) const {
+    if (IsNull(row, column)) return Variant::Null();
+    const Place& place = FPlaces[static_cast<size_t>(column)];
+    if (!place.IsText()) return FixedValue(place.Kind, place.Scale, row + place.Packed);
+    const std::span<const uint8_t> bytes = Text(row, column);
+    return DecodeText(place.Encoding, QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+}
+
+}  // namespace fichario

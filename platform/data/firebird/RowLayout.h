@@ -1,0 +1,71 @@
+// How a row is kept: a bit for each null column, the values of fixed size at fixed places, then the texts at
+// their real length. A value is decoded when it is read.
+//
+//     RowLayout layout(statement.Columns());
+//     uint8_t* end = layout.Pack(message, row);
+//     Variant name = layout.Value(row, 1);
+#pragma once
+#include <span>
+#include "platform/data/firebird/Columns.h"
+#include "platform/rtl/Variant.h"
+
+namespace fichario {
+
+class RowLayout {
+  public:
+    RowLayout() = default;
+    explicit RowLayout(const ColumnList& columns);
+
+    // The same columns at the same places.
+    bool operator==(const RowLayout&) const = default;
+
+    int Columns() const { return static_cast<int>(FPlaces.size()); }
+    // The most bytes that a packed row can take.
+    size_t MaxBytes() const { return FMaxBytes; }
+
+    // Packs the row of a message as the server sent it into `row`, MaxBytes long. Returns the end of what it
+    // wrote.
+    uint8_t* Pack(const uint8_t* message, uint8_t* row) const;
+    // Writes a row whose columns are all null.
+    uint8_t* PackNull(uint8_t* row) const;
+    // Packs values as Value gives them, one for each column; a text that is too long or foreign is cut or
+    // null.
+    uint8_t* PackValues(const std::vector<Variant>& values, uint8_t* row) const;
+    // The length of a packed row.
+    size_t Bytes(const uint8_t* row) const;
+
+    bool IsNull(const uint8_t* row, int column) const { return row[column >> 3] >> (column & 7) & 1; }
+    // The value; null, or that of the column's kind. A blob gives its identity as an integer.
+    Variant Value(const uint8_t* row, int column) const;
+    // A text column's bytes in the column's encoding; empty for null.
+    std::span<const uint8_t> Text(const uint8_t* row, int column) const;
+    TextEncoding Encoding(int column) const { return FPlaces[static_cast<size_t>(column)].Encoding; }
+    bool IsText(int column) const { return FPlaces[static_cast<size_t>(column)].IsText(); }
+
+  private:
+    struct Place {
+        WireKind Kind;
+        TextEncoding Encoding;
+        uint8_t Scale;
+        uint8_t Size;     // fixed: bytes; text: bytes of the length in front of it
+        uint32_t Offset;  // in the message
+        uint32_t NullOffset;
+        uint32_t Length;  // CHAR: bytes in the message
+        uint32_t Packed;  // fixed: place in the packed row; text: how many texts stand before it
+        bool IsText() const { return Kind == WireKind::Text || Kind == WireKind::Varying; }
+        bool operator==(const Place&) const = default;
+    };
+
+    static Place PlaceOf(const ColumnInfo& column);
+    static uint8_t* PutText(const Place& place, const uint8_t* text, uint32_t length, uint8_t* out);
+    static uint8_t* PackText(const Place& place, const uint8_t* message, bool null, uint8_t* out);
+    static uint32_t TakeLength(const Place& place, const uint8_t*& at);
+
+    std::vector<Place> FPlaces;
+    std::vector<uint32_t> FTexts;  // the text columns, in order
+    uint32_t FNullBytes = 0;
+    uint32_t FFixedEnd = 0;  // where the texts begin
+    size_t FMaxBytes = 0;
+};
+
+}  // namespace fichario

@@ -1,0 +1,16 @@
+// Whole statements in one call, for this layer's own needs.
+#pragma once
+#include "platform/data/firebird/InputMessage.h"
+#include "platform/data/firebird/RowStore.h"
+
+namespace fichario {
+
+// All rows of a SELECT, read in the transaction that reads happen in; none when a text can match nothing.
+RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values);
+
+// Executes any other statement in the host's transaction or a short one of its own. `returned` gets the row
+// of a RETURNING. Returns how many records changed. EDatabaseError, EFDError.
+int64_t ExecuteSql(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
+                   RowStore* returned = nullptr);
+
+}  // namespace fichario

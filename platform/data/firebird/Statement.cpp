@@ -1,0 +1,104 @@
+#include "platform/data/firebird/Statement.h"
+
+#include "platform/data/firebird/Aliases.h"
+#include "platform/data/firebird/Describe.h"
+#include "platform/data/firebird/FbApi.h"
+#include "platform/data/firebird/InputMessage.h"
+#include "platform/data/firebird/RowStore.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fichario {
+
+Statement::Statement(Attachment& attachment, const UnicodeString& sql) : FAttachment(attachment), FSql(sql) {
+    Prepare();
+    try {
+        Describe();
+    } catch (...) {
+        FHandle->release();
+        throw;
+    }
+}
+
+void Statement::Prepare() {
+    const std::optional<QByteArray> text = EncodeText(FAttachment.Encoding(), FSql);
+    if (!text) {
+        const UnicodeString foreign = FirstForeign(FAttachment.Encoding(), FSql);
+        throw EDatabaseError(u"Caractere não permitido: “%1”."_s.arg(foreign));
+    }
+    const std::shared_ptr<Transaction> transaction = FAttachment.Reading();
+    FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
+        FHandle = FAttachment.Handle()->prepare(
+            &status, transaction->Handle(), static_cast<unsigned>(text->size()), text->constData(),
+            SQL_DIALECT_V6, Firebird::IStatement::PREPARE_PREFETCH_METADATA);
+    });
+}
+
+void Statement::Describe() {
+    FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
+        FType = FHandle->getType(&status);
+        FHasCursor = FHandle->getFlags(&status) & Firebird::IStatement::FLAG_HAS_CURSOR;
+        FInputFormat = FHandle->getInputMetadata(&status);
+        FRowFormat = FHandle->getOutputMetadata(&status);
+        FInputs = ColumnsOf(status, *FInputFormat, FAttachment);
+        FColumns = ColumnsOf(status, *FRowFormat, FAttachment);
+        FRowBytes = FRowFormat->getMessageLength(&status);
+    });
+    if (FType >= isc_info_sql_stmt_start_trans && FType <= isc_info_sql_stmt_rollback) {
+        throw EDatabaseError(u"Use StartTransaction, Commit and Rollback of the connection"_s);
+    }
+}
+
+Statement::~Statement() {
+    if (FInputFormat) FInputFormat->release();
+    if (FRowFormat) FRowFormat->release();
+    const bool freed = QuietClientCall(CallKind::Close,
+                                       [&](Firebird::ThrowStatusWrapper& status) { FHandle->free(&status); });
+    if (!freed) FHandle->release();
+}
+
+bool Statement::IsDefinition() const {
+    return FType == isc_info_sql_stmt_ddl;
+}
+
+void Statement::DescribeAliases() {
+    if (FAliases) return;
+    FAliases = true;
+    FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
+        ReadAliases(status, *FHandle, FAttachment.Encoding(), FColumns);
+    });
+}
+
+int64_t Statement::Execute(Transaction& transaction, InputMessage& input, RowStore* returned) {
+    std::vector<uint8_t> row(FColumns.empty() ? 0 : FRowBytes);
+    uint64_t changed = 0;
+    input.Build(*this, transaction);
+    FAttachment.Call(CallKind::Execute, [&](Firebird::ThrowStatusWrapper& status) {
+        FHandle->execute(&status, transaction.Handle(), input.Format(), input.Bytes(),
+                         row.empty() ? nullptr : FRowFormat, row.empty() ? nullptr : row.data());
+        changed = FHandle->getAffectedRecords(&status);
+    });
+    if (returned && !row.empty()) returned->Append(row.data());
+    return static_cast<int64_t>(changed);
+}
+
+StatementLease::StatementLease(std::shared_ptr<Attachment> attachment, std::unique_ptr<Statement> statement)
+    : FAttachment(std::move(attachment)), FStatement(std::move(statement)) {}
+
+void StatementLease::End() {
+    if (FStatement) FAttachment->GiveBack(std::move(FStatement));
+    FAttachment.reset();
+}
+
+StatementLease::~StatementLease() {
+    End();
+}
+
+StatementLease& StatementLease::operator=(StatementLease&& other) noexcept {
+    End();
+    FAttachment = std::move(other.FAttachment);
+    FStatement = std::move(other.FStatement);
+    return *this;
+}
+
+}  // namespace fichario

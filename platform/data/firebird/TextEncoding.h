@@ -1,0 +1,26 @@
+// Texts on their way to and from the server: bytes in the connection's character set.
+#pragma once
+#include <optional>
+#include <QByteArray>
+#include <QStringView>
+#include "platform/rtl/Types.h"
+
+namespace fichario {
+
+// ISO8859_1 counts as Windows-1252: databases filled by Windows programs hold its signs in the bytes 80 to
+// 9F.
+enum class TextEncoding : uint8_t { Windows1252, Utf8 };
+
+// The encoding for a CharacterSet parameter's value, any case; Windows-1252 for names it does not know.
+TextEncoding EncodingOfName(QStringView characterSet);
+
+// The bytes, or nothing when the set lacks a character or the text is no valid UTF-16.
+std::optional<QByteArray> EncodeText(TextEncoding encoding, QStringView text);
+
+// The text; never fails.
+UnicodeString DecodeText(TextEncoding encoding, QByteArrayView bytes);
+
+// The first character that the set cannot hold, whole even outside the basic plane; empty when all can.
+UnicodeString FirstForeign(TextEncoding encoding, QStringView text);
+
+}  // namespace fichario

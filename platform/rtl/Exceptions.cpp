@@ -1,0 +1,7 @@
+#include "platform/rtl/Exceptions.h"
+
+EAbort::EAbort() : Exception(QStringLiteral("Operation aborted")) {}
+
+void Abort() {
+    throw EAbort();
+}

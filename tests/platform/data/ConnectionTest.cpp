@@ -1,0 +1,207 @@
+// Connecting, transactions, and client calls that fail.
+#include <QDir>
+#include <QFile>
+#include "platform/data/firebird/ClientCall.h"
+#include "platform/data/firebird/ErrorCodes.h"
+#include "platform/data/firebird/FbErrors.h"
+#include "tests/platform/data/TestDatabase.h"
+
+namespace {
+
+void Write(const UnicodeString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+TEST_F(DataTest, ADatabaseThatCannotBeOpenedSaysWhy) {
+    ASSERT_TRUE(QDir(InFolder(UnicodeString())).mkdir(u"pasta"_s));
+    Write(InFolder(u"vazio.fdb"_s), {});
+    Write(InFolder(u"lixo.fdb"_s), QByteArray(20000, 'x'));
+    struct {
+        UnicodeString File, Cause;
+    } const cases[] = {
+        {u"nenhum.fdb"_s, u"arquivo não encontrado"_s},
+        {u"pasta"_s, u"é uma pasta, não um arquivo"_s},
+        {u"vazio.fdb"_s, u"o arquivo está vazio ou incompleto"_s},
+        {u"lixo.fdb"_s, u"o arquivo não é um banco de dados Firebird"_s},
+    };
+    FConnection->Close();
+    for (const auto& c : cases) {
+        const UnicodeString path = InFolder(c.File);
+        FConnection->Params()->SetValue(u"Database"_s, path);
+        EXPECT_EQ(MessageOf([&] { FConnection->Open(); }),
+                  u"Não foi possível abrir o banco de dados %1: %2."_s.arg(path, c.Cause));
+        EXPECT_FALSE(FConnection->Connected());
+    }
+    FConnection->Params()->SetValue(u"Database"_s, Path());
+    EXPECT_EQ(MessageOf([&] { FConnection->CreateDatabase(); }),
+              u"Não foi possível criar o banco de dados %1: o arquivo já existe."_s.arg(Path()));
+    FConnection->Params()->SetValue(u"CharacterSet"_s, u"XYZ"_s);
+    EXPECT_EQ(
+        MessageOf([&] { FConnection->Open(); }),
+        u"Não foi possível abrir o banco de dados %1: conjunto de caracteres desconhecido."_s.arg(Path()));
+}
+
+TEST_F(DataTest, AHostsTransactionBracketsEverything) {
+    TFDConnection* other = Connect();
+    const auto seen = [&] { return other->ExecSQLScalar(u"SELECT COUNT(*) FROM CLIENTE"_s).ToInt(); };
+    TFDQuery* query = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
+    for (const bool commit : {false, true}) {
+        FConnection->StartTransaction();
+        query->Open();
+        query->Append();
+        query->FieldByName(u"NM"_s)->SetAsString(u"novo"_s);
+        query->Post();
+        EXPECT_TRUE(query->FieldByName(u"ID"_s)->AsInteger() > 1000) << "read back inside the transaction";
+        EXPECT_EQ(seen(), 3);
+        EXPECT_EQ(MessageOf([&] { FConnection->StartTransaction(); }), u"A transaction is already active");
+        commit ? FConnection->Commit() : FConnection->Rollback();
+        EXPECT_FALSE(FConnection->InTransaction());
+        query->Close();
+    }
+    EXPECT_EQ(seen(), 4);
+    EXPECT_EQ(MessageOf([&] { FConnection->Commit(); }), u"No transaction is active");
+}
+
+TEST_F(DataTest, CursorsOpenAtATransactionsEndAreReadToTheirEnd) {
+    TFDQuery* before = Open(u"SELECT N FROM NUMEROS ORDER BY N"_s);
+    FConnection->StartTransaction();
+    TFDQuery* inside = Open(u"SELECT N FROM NUMEROS ORDER BY N DESC"_s);
+    Exec(u"INSERT INTO NUMEROS VALUES (1000, 'x')"_s);
+    FConnection->Rollback();
+    EXPECT_TRUE(inside->AllFetched());
+    EXPECT_FALSE(before->AllFetched());
+    before->Last();
+    EXPECT_EQ(before->RowCount(), 500);
+    inside->Refresh();
+    EXPECT_EQ(inside->RecordCount(), 500);
+}
+
+TEST_F(DataTest, AnOpenDatasetHoldsNothingBack) {
+    TFDQuery* query = Open(u"SELECT N, T FROM NUMEROS ORDER BY N"_s);
+    for (int i = 0; i < 50; ++i) Exec(u"UPDATE NUMEROS SET T = 'a' WHERE N = 400"_s);
+    const UnicodeString gap = Scalar(u"SELECT MON$NEXT_TRANSACTION - MON$OLDEST_ACTIVE FROM MON$DATABASE"_s);
+    EXPECT_LE(gap.toInt(), 5);
+    ASSERT_TRUE(query->Locate(u"N"_s, 400));
+    EXPECT_EQ(query->FieldByName(u"T"_s)->AsString(), u"a");
+}
+
+TEST_F(DataTest, ClosingTheConnectionClosesItsDatasets) {
+    TFDQuery* query = Open(u"SELECT * FROM CLIENTE"_s);
+    query->Edit();
+    FConnection->Close();
+    EXPECT_FALSE(query->Active());
+    EXPECT_EQ(query->FieldCount(), 15);
+    query->Open();
+    EXPECT_TRUE(FConnection->Connected());
+    FConnection->Free();
+    EXPECT_EQ(query->Connection(), nullptr);
+    FConnection = nullptr;
+}
+
+// Lets the Nth client call of a scope fail with one code.
+class FailingCall {
+  public:
+    FailingCall(int nth, int64_t code) {
+        fichario::SetClientCallHook([this, nth, code](fichario::CallKind) {
+            if (++FCalls == nth) throw fichario::ErrorOfCodes({code});
+        });
+    }
+    ~FailingCall() { fichario::SetClientCallHook(nullptr); }
+    int Calls() const { return FCalls; }
+
+  private:
+    int FCalls = 0;
+};
+
+// A scenario of every kind of call, with each call failing in turn: nothing crashes, what is read is right or
+// an error is told, and afterwards the same works.
+TEST_F(DataTest, AnyClientCallMayFail) {
+    bool reconnect = false;
+    const auto work = [&](TFDQuery* query) {
+        query->Open();
+        query->Last();
+        query->Edit();
+        query->FieldByName(u"OBS"_s)->SetAsString(u"x"_s + query->FieldByName(u"OBS"_s)->AsString());
+        query->Post();
+        query->Append();
+        query->FieldByName(u"NM"_s)->SetAsString(u"outro"_s);
+        query->Post();
+        query->Delete();
+        query->Refresh();
+        if (query->RecordCount() != 3) throw EDatabaseError(u"rows are missing"_s);
+        query->Close();
+        if (reconnect) FConnection->Close();
+    };
+    for (const int64_t code : {int64_t{335544794}, fichario::kConnectionLost}) {
+        reconnect = code == fichario::kConnectionLost;
+        bool failed = true;
+        int nth = 0;
+        while (failed) {
+            ++nth;
+            SCOPED_TRACE(::testing::Message() << "call " << nth << " fails with " << code);
+            TFDQuery* query = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
+            {
+                const FailingCall failing(nth, code);
+                const UnicodeString message = MessageOf([&] { work(query); });
+                EXPECT_NE(message, u"rows are missing");
+                failed = failing.Calls() >= nth;
+            }
+            query->Free();
+            Exec(u"DELETE FROM CLIENTE WHERE ID > 3"_s);
+            TFDQuery* again = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
+            EXPECT_EQ(MessageOf([&] { work(again); }), UnicodeString());
+            again->Free();
+        }
+        EXPECT_GT(nth, 20);
+    }
+}
+
+TEST_F(DataTest, AFailedFetchIsNeverTheEndOfTheData) {
+    TFDQuery* query = Open(u"SELECT N FROM NUMEROS ORDER BY N"_s);
+    {
+        const FailingCall failing(1, fichario::kConnectionLost);
+        EXPECT_EQ(
+            MessageOf([&] { query->Last(); }),
+            u"A conexão com o servidor foi perdida. Os dados digitados foram mantidos; tente novamente.");
+    }
+    EXPECT_FALSE(query->AllFetched());
+    EXPECT_THROW(query->Last(), EFDError);
+    EXPECT_EQ(query->RecNo(), 1);
+    bool lost = false;
+    FConnection->OnLost = [&](TFDCustomConnection*) { lost = true; };
+    query->Refresh();
+    query->Last();
+    EXPECT_TRUE(lost);
+    EXPECT_EQ(query->RecNo(), 500);
+}
+
+TEST_F(DataTest, APostSucceedsOnceALostConnectionIsBack) {
+    TFDQuery* query = Open(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
+    query->Edit();
+    query->FieldByName(u"QTD"_s)->SetAsInteger(77);
+    {
+        const FailingCall failing(3, fichario::kConnectionLost);
+        EXPECT_THROW(query->Post(), EFDError);
+    }
+    EXPECT_EQ(query->State(), dsEdit);
+    query->Post();
+    EXPECT_EQ(query->FieldByName(u"QTD"_s)->AsInteger(), 77);
+    EXPECT_EQ(Scalar(u"SELECT QTD FROM CLIENTE WHERE ID = 1"_s), u"77");
+}
+
+TEST_F(DataTest, ALostTransactionMustBeRolledBack) {
+    FConnection->StartTransaction();
+    Exec(u"UPDATE CLIENTE SET QTD = 1"_s);
+    {
+        const FailingCall failing(1, fichario::kConnectionLost);
+        EXPECT_THROW(Exec(u"UPDATE CLIENTE SET QTD = 2"_s), EFDError);
+    }
+    EXPECT_THROW(Exec(u"UPDATE CLIENTE SET QTD = 3"_s), EFDError);
+    FConnection->Rollback();
+    EXPECT_EQ(Scalar(u"SELECT QTD FROM CLIENTE WHERE ID = 1"_s), u"3");
+    Exec(u"UPDATE CLIENTE SET QTD = 4"_s);
+}
+
+}  // namespace
