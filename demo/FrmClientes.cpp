@@ -82,8 +82,8 @@ TFrmCadCliente::TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, uns
 
 void TFrmCadCliente::CreateControls() {
     TFrmCad_Master::CreateControls();
-    SetClientWidth(680);
-    SetClientHeight(400);
+    SetClientWidth(620);
+    SetClientHeight(350);
     CreateQuery();
     CreateMainPage();
     CreateTradePage();

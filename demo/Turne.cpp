@@ -5,6 +5,7 @@
 #include "demo/FrmClientes.h"
 #include "demo/FrmPrincipal.h"
 #include "platform/data/DataSet.h"
+#include "platform/rtl/DateTime.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/DBGrid.h"
@@ -39,11 +40,15 @@ class TTour {
         Clientes()->EdtPesquisa->SetFocus();
         Shoot(u"06-clientes-faixa-de-valores"_s);
         OrderBy(u"DT_CAD"_s);
+        Clientes()->DpPesq1->SetDate(EncodeDate(2024, 1, 1));
+        Clientes()->DpPesq2->SetDate(EncodeDate(2024, 12, 31));
+        Clientes()->RefreshData();
         Shoot(u"07-clientes-periodo"_s);
         OrderBy(u"TF_ATIVO"_s);
         Shoot(u"08-clientes-lista-de-valores"_s);
         OrderBy(u"NM_CLI"_s);
         Clientes()->ExibirRegistrosExcludos1Click(nullptr);
+        Clientes()->MainDS->DataSet()->Locate(u"TF_DEL"_s, u"S"_s);
         Shoot(u"09-clientes-excluidos"_s);
         Clientes()->ExibirRegistrosExcludos1Click(nullptr);
     }
@@ -66,9 +71,18 @@ class TTour {
     }
 
     void Towns() {
-        Clientes()->Perform(WM_SYSCOMMAND, SC_MAXIMIZE, 0);
         FMain.OpenMunicipios();
         Shoot(u"15-municipios"_s);
+    }
+
+    void LargeScreen() {
+        FMain.SetBounds(0, 0, 1920, 1080);
+        Clientes()->Ativa();
+        Clientes()->Perform(WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+        Shoot(u"16-tela-grande"_s);
+        Clientes()->CreateCad(2);
+        Shoot(u"17-tela-grande-alterando"_s);
+        CloseChild();
     }
 
   private:
@@ -110,10 +124,12 @@ class TTour {
 
 int WriteTour(TFrmPrincipal& main, const UnicodeString& folder) {
     EnsureFolder(folder);
+    main.SetBounds(0, 0, 1024, 768);
     TTour tour(main, folder);
     tour.MainWindow();
     tour.Customers();
     tour.Registration();
     tour.Towns();
+    tour.LargeScreen();
     return 0;
 }

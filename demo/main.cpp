@@ -6,6 +6,7 @@
 //     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour)
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTemporaryDir>
 
 #include "demo/dados/Banco.h"
 #include "demo/DmComercial.h"
@@ -64,8 +65,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"Comercial"_s);
     ApplyLooks(app);
-    TApplication application;
     const TOptions options = ReadOptions(app);
+    const QTemporaryDir state;  // the tour's pictures do not depend on what the user's screens remember
+    if (!options.TourFolder.isEmpty()) SetProgramFolder(state.path());
+    TApplication application;
     try {
         return RunHost(options);
     } catch (const Exception& e) {

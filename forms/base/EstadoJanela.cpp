@@ -110,3 +110,10 @@ void TFrmBase::DeleteProp(const UnicodeString& PropName) {
 void TFrmBase::ClearProps() {
     WriteState([&](TIniFile& file) { file.EraseSection(SectionName()); });
 }
+
+void TFrmBase::UpdateProps(const std::function<void()>& writes) {
+    WriteState([&](TIniFile& file) {
+        TIniUpdate together(file);
+        writes();
+    });
+}

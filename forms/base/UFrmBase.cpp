@@ -35,10 +35,11 @@ TFrmBase::TFrmBase(TComponent* AOwner, TModuleInstance* AModule, const TModuleIn
     SetKeyPreview(true);
 }
 
-TFrmBase::~TFrmBase() {
+void TFrmBase::BeforeDeath() {
     if (FChildForm) FChildForm->Free();
     if (FRegistered) Module->FormDestroy(this);
     ReleaseOpener();
+    TForm::BeforeDeath();
 }
 
 void TFrmBase::DoDestroy() {

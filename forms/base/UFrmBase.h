@@ -85,6 +85,8 @@ class TFrmBase : public TForm {
     void SetFloatWindowProp(const UnicodeString& PropName, double Value);
     void DeleteProp(const UnicodeString& PropName);
     void ClearProps();  // erases the whole section, what derived forms wrote included
+    // Runs `writes`, whose changes of properties reach the file together.
+    void UpdateProps(const std::function<void()>& writes);
 
     // For the host's window-list menu item.
     void MenuClick(TComponent* Sender);
@@ -114,10 +116,11 @@ class TFrmBase : public TForm {
     virtual void FormKeyPress(TComponent* Sender, WideChar& Key);
 
   protected:
-    ~TFrmBase() override;
+    ~TFrmBase() override = default;
     void CreateControls() override;
     void Construct() override;
     void DoDestroy() override;
+    void BeforeDeath() override;
     void ShieldClick() override { Ativa(); }
     void WndProc(TMessage& Message) override;
 

@@ -216,6 +216,7 @@ void TFrmGrid_Master::WndProc(TMessage& Message) {
 void TFrmGrid_Master::CmdSetMovedOff() { FColumnMoved = false; }
 
 void TFrmGrid_Master::ScrollMouse(TMessage& Message) {
+    Message.Result = 1;  // the grid need not scroll by itself
     if (!MainDataSet()->Active()) return;
     const int turn = int16_t(Message.WParam >> 16);
     if (turn < 1) {

@@ -87,9 +87,7 @@ void ApplyColumn(TColumn* column, const TStoredColumn& stored, const UnicodeStri
     column->PickList().SetText(pickList);
 }
 
-}  // namespace
-
-void SaveGridConfig(TFrmGrid_Master& form) {
+void WriteGrid(TFrmGrid_Master& form) {
     const int count = form.DBGrd->Columns().Count();
     form.SetIntWindowProp(u"FontSize"_s, form.DBGrd->FontSize());
     form.SetIntWindowProp(u"GridCount"_s, count);
@@ -100,11 +98,17 @@ void SaveGridConfig(TFrmGrid_Master& form) {
     for (int i = 0; i < count; ++i) SaveColumn(form, i);
 }
 
+}  // namespace
+
+void SaveGridConfig(TFrmGrid_Master& form) {
+    form.UpdateProps([&form] { WriteGrid(form); });
+}
+
 bool LoadGridColumns(TFrmGrid_Master& form, TPickLists& pickLists) {
     const int count = form.GetIntWindowProp(u"GridCount"_s, 0);
     form.DBGrd->SetFontSize(form.GetIntWindowProp(u"FontSize"_s, form.DBGrd->FontSize()));
     if (!FitsGrid(form, count)) {
-        DeleteColumns(form, count);
+        form.UpdateProps([&] { DeleteColumns(form, count); });
         return false;
     }
     pickLists = CollectPickLists(form);

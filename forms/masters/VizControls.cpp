@@ -33,6 +33,7 @@ void TFrmViz_Master::CreateControls() {
     DBGrd->OnDblClick = [this](TComponent* sender) { DBGrdDblClick(sender); };
     DBGrd->OnKeyPress = [this](TComponent* sender, WideChar& key) { DBGrdKeyPress(sender, key); };
     PnPesquisa->SetTop(kSearchTop);
+    LbPesqInt->SetFontColor(Cores::Trabalho);  // it stands on the blue bar
     PnPesquisa->SetAnchors(akTop | akRight);
     OnPaint = [this](QPainter& painter) { FormPaint(painter); };
 }

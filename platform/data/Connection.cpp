@@ -1,5 +1,6 @@
 #include "platform/data/Connection.h"
 
+#include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/FbErrors.h"
 #include "platform/data/firebird/SqlRunner.h"
@@ -123,6 +124,12 @@ int TFDCustomConnection::ExecSQL(const UnicodeString& sql, const std::vector<Var
 
 Variant TFDCustomConnection::ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values) {
     const ScannedSql scanned = ScanParams(sql);
-    const RowStore rows = ReadRows(*RequireAttachment(), scanned.Text, InputsFor(scanned, values));
-    return rows.Count() > 0 ? rows.Value(0, 0) : Variant::Null();
+    const std::shared_ptr<Attachment> attachment = RequireAttachment();
+    const RowStore rows = ReadRows(*attachment, scanned.Text, InputsFor(scanned, values));
+    if (rows.Count() == 0) return Variant::Null();
+    const Variant value = rows.Value(0, 0);
+    const TFieldType type = rows.Layout().Type(0);
+    if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
+    const QByteArray bytes = ReadBlob(*attachment, *attachment->Reading(), value.ToInt64());
+    return type == ftBlob ? Variant(bytes) : Variant(DecodeText(rows.Layout().Encoding(0), bytes));
 }

@@ -20,7 +20,9 @@ TDataSet::~TDataSet() {
     for (TField* field : FFields) field->FDataSet = nullptr;
 }
 
+// Handlers are left alone: what they speak of may be gone before the dataset.
 void TDataSet::ShutDown() {
+    BeforeClose = AfterClose = nullptr;
     try {
         Close();
     } catch (...) {

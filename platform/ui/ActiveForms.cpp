@@ -130,7 +130,7 @@ void TActiveForms::Leave(TForm* form) {
     try {
         left->DoExit();
     } catch (...) {
-        FRefused = true;
+        FRefused = QGuiApplication::mouseButtons() != Qt::NoButton;
         if (widget) {
             form->FEntered = form->FActiveControl = left;
             widget->setFocus(Qt::OtherFocusReason);

@@ -34,7 +34,8 @@ class TActiveForms {
     // The mouse was pressed on a widget that need not take the focus.
     void MousePressed(QWidget* widget);
 
-    // A change of focus was refused since the last call: the press that asked for it must not go on.
+    // A press of the mouse asked for a change of focus that was refused since the last call: it must not go
+    // on.
     bool TakeRefusal() { return std::exchange(FRefused, false); }
 
   private:

@@ -23,6 +23,7 @@ TDateTimePicker::TDateTimePicker(TComponent* owner) : TWidget(owner) {
     setLocale(QLocale(QLocale::Portuguese, QLocale::Brazil));
     setDisplayFormat(u"dd/MM/yyyy"_s);
     setCalendarPopup(true);
+    setAccessibleName(u"Data"_s);
     connect(this, &QDateEdit::dateChanged, this, [this] {
         CalledByQt(this, [this] {
             if (OnChange) OnChange(this);
@@ -56,6 +57,7 @@ bool TDateTimePicker::DroppedDown() const {
 
 TPageControl::TPageControl(TComponent* owner) : TWidget(owner) {
     setFocusPolicy(Qt::ClickFocus);
+    setAccessibleName(u"Páginas"_s);
     connect(this, &QStackedWidget::currentChanged, this, [this] {
         CalledByQt(this, [this] {
             if (OnChange) OnChange(this);
@@ -122,6 +124,7 @@ int TTabSheet::PageIndex() const {
 
 TIceTabSet::TIceTabSet(TComponent* owner) : TWidget(owner) {
     setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(u"Abas"_s);
     setDrawBase(false);
     setExpanding(false);
     setAttribute(Qt::WA_Hover);

@@ -7,10 +7,13 @@
 #include "platform/data/DataLink.h"
 #include "platform/data/DataSet.h"
 #include "platform/data/DataSource.h"
+#include "platform/ui/Application.h"
 #include "platform/ui/GridEditor.h"
 #include "platform/ui/GridPainter.h"
 #include "platform/ui/GridTitleDrag.h"
 #include "platform/ui/Guard.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -75,6 +78,7 @@ TDBGrid::TDBGrid(TComponent* owner)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setAccessibleName(u"Registros"_s);
 }
 
 TDBGrid::~TDBGrid() {
@@ -204,6 +208,7 @@ void TDBGrid::QueueFetch() {
 
 void TDBGrid::FetchBelow() {
     FFetchQueued = false;
+    if (Application->Waiting()) return Application->AfterWait(this, [this] { QueueFetch(); });
     if (FLink->Active() && !DataSet()->AllFetched()) DataSet()->FetchMore(kFetchRows);
 }
 

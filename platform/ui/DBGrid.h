@@ -9,7 +9,8 @@
 // The current row is the dataset's current record: clicks and keys move the dataset, and the grid follows it.
 // More rows are fetched when the scrolling comes near the end of those that are here.
 //
-// The wheel is the form's first (WM_MOUSEWHEEL); where that message's Result stays 0, the grid moves by a row.
+// The wheel is the form's first (WM_MOUSEWHEEL); where that message's Result stays 0, the grid moves by a
+// row.
 //
 // Keys: Up, Down, Page Up and Page Down move by rows, Home and End by columns (by all rows in row
 // selection), Ctrl+Home and Ctrl+End to the first and the last record, Left, Right and (dgTabs) Tab by

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include "platform/data/DataSet.h"
 #include "platform/data/DataSource.h"
+#include "platform/ui/Application.h"
 #include "platform/ui/Guard.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -68,12 +69,14 @@ void TDBLookupComboBox::SetListField(const UnicodeString& names) {
 void TDBLookupComboBox::ListChanged() {
     FListRead = false;
     if (std::exchange(FShowQueued, true)) return;
-    const auto show = [this] {
-        FShowQueued = false;
-        ShowKey();
-    };
     QMetaObject::invokeMethod(
-        this, [this, show] { CalledByQt(this, show); }, Qt::QueuedConnection);
+        this, [this] { CalledByQt(this, [this] { ShowLater(); }); }, Qt::QueuedConnection);
+}
+
+void TDBLookupComboBox::ShowLater() {
+    FShowQueued = false;
+    if (Application->Waiting()) return Application->AfterWait(this, [this] { ListChanged(); });
+    ShowKey();
 }
 
 void TDBLookupComboBox::FillList() {

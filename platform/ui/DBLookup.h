@@ -57,6 +57,7 @@ class TDBLookupComboBox : public TWidget<QComboBox>, public TDataAware {
     void AddRow(const TDataSet& list);
     void Chosen(int index);
     void ShowKey();
+    void ShowLater();
 
     std::unique_ptr<TLookupListLink> FList;
     UnicodeString FKeyField, FListField;

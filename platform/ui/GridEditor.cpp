@@ -25,7 +25,7 @@ bool BelongsToGrid(const QKeyEvent& event) {
 
 TGridEditor::TGridEditor(TDBGrid& grid) : QLineEdit(grid.viewport()), FGrid(grid) {
     setFrame(false);
-    setTextMargins(3, 0, 3, 0);
+    setTextMargins(3, 1, 3, 0);
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { CalledByQt(&FGrid, [this] { Change(); }); });
 }

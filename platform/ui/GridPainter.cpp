@@ -1,5 +1,6 @@
 #include "platform/ui/GridPainter.h"
 
+#include <cmath>
 #include <optional>
 #include "platform/data/DataSet.h"
 #include "platform/ui/Palette.h"
@@ -9,7 +10,7 @@ namespace {
 constexpr int kPadding = 5;  // left and right of a text
 
 // Where a text of that width begins.
-int StartOf(QRect room, TAlignment alignment, int width) {
+qreal StartOf(QRect room, TAlignment alignment, qreal width) {
     switch (alignment) {
         case taRightJustify: return room.right() + 1 - width;
         case taCenter: return room.left() + (room.width() - width) / 2;
@@ -20,11 +21,11 @@ int StartOf(QRect room, TAlignment alignment, int width) {
 
 }  // namespace
 
-int TLetterWidths::Of(const UnicodeString& text) {
-    int width = 0;
+qreal TLetterWidths::Of(const UnicodeString& text) {
+    qreal width = 0;
     for (const QChar letter : text) {
         if (letter.unicode() >= FWidths.size()) return FMeasure.horizontalAdvance(text);
-        int& known = FWidths[letter.unicode()];
+        qreal& known = FWidths[letter.unicode()];
         if (known < 0) known = FMeasure.horizontalAdvance(letter);
         width += known;
     }
@@ -116,12 +117,12 @@ void TGridPainter::PaintCell(int row, int index, bool selectedRow) {
 void TGridPainter::PaintText(QRect cell, TAlignment alignment, const UnicodeString& text) {
     if (text.isEmpty()) return;
     const QRect room = TextRoom(cell);
-    const QFontMetrics& font = FWidths.Font();
-    const int width = FWidths.Of(text);
+    const QFontMetricsF& font = FWidths.Font();
+    const qreal width = FWidths.Of(text);
     const bool fits = width <= room.width();
-    const int left = StartOf(room, fits ? alignment : taLeftJustify, width);
-    const int base = room.top() + (room.height() - font.height() + 1) / 2 + font.ascent();
-    FPainter.drawText(left, base, fits ? text : font.elidedText(text, Qt::ElideRight, room.width()));
+    const qreal left = StartOf(room, fits ? alignment : taLeftJustify, width);
+    const qreal base = room.top() + std::round((room.height() - font.height()) / 2 + font.ascent());
+    FPainter.drawText(QPointF(left, base), fits ? text : font.elidedText(text, Qt::ElideRight, room.width()));
 }
 
 void TGridPainter::PaintLines(int row, QRect area) {

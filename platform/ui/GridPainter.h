@@ -8,17 +8,18 @@
 #include <QPainter>
 #include "platform/ui/DBGrid.h"
 
-// Text widths for one font from a table of letter widths, without the shaping that the toolkit does for each text.
+// Text widths for one font from a table of letter widths, without the shaping that the toolkit does for each
+// text.
 class TLetterWidths {
   public:
     explicit TLetterWidths(const QFont& font) : FMeasure(font) { FWidths.fill(-1); }
-    const QFontMetrics& Font() const { return FMeasure; }
+    const QFontMetricsF& Font() const { return FMeasure; }
     // Pixels; letters beyond the western ones are measured by the toolkit.
-    int Of(const UnicodeString& text);
+    qreal Of(const UnicodeString& text);
 
   private:
-    QFontMetrics FMeasure;
-    std::array<int, 0x180> FWidths;
+    QFontMetricsF FMeasure;
+    std::array<qreal, 0x180> FWidths;
 };
 
 class TGridPainter {

@@ -18,6 +18,31 @@ namespace {
 constexpr double kRadius = 3;
 constexpr int kPadding = 2;  // between the frame of an edit and its text
 
+// The sign of a message box: a disc of its colour with a character, at `size` device pixels.
+QPixmap BoxSign(QChar character, const QColor& color, int size) {
+    QPixmap picture(size, size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    const QRectF disc(size * 0.04, size * 0.04, size * 0.92, size * 0.92);
+    painter.drawEllipse(disc);
+    QFont font = TextFont();
+    font.setPixelSize(size * 5 / 8);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Cores::Trabalho);
+    painter.drawText(disc, Qt::AlignCenter, character);
+    return picture;
+}
+
+QIcon BoxIcon(QChar character, const QColor& color) {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 96, 128}) icon.addPixmap(BoxSign(character, color, size));
+    return icon;
+}
+
 // Flat fields and buttons with hairlines; everything else as the base style draws it.
 class TLooks : public QProxyStyle {
   public:
@@ -28,6 +53,17 @@ class TLooks : public QProxyStyle {
         if (hint == SH_ComboBox_Popup) return 0;
         if (hint == SH_EtchDisabledText) return 0;
         return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxQuestion: return BoxIcon(u'?', Cores::Destaque);
+            case SP_MessageBoxInformation: return BoxIcon(u'i', Cores::Destaque);
+            case SP_MessageBoxWarning: return BoxIcon(u'!', Cores::Dica);
+            case SP_MessageBoxCritical: return BoxIcon(u'×', Cores::Erro);
+            default: return QProxyStyle::standardIcon(icon, option, widget);
+        }
     }
 
     QRect subElementRect(SubElement element, const QStyleOption* option,
@@ -128,7 +164,9 @@ class TLooks : public QProxyStyle {
     }
 
     void DrawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
-        if (qobject_cast<const QComboBox*>(widget) || (widget && widget->inherits("QPushButton"))) return;
+        for (const char* framed : {"QComboBox", "QPushButton", "QAbstractItemView"}) {
+            if (widget && widget->inherits(framed)) return;
+        }
         painter.save();
         painter.setPen(QPen(Cores::Destaque, 1, Qt::DotLine));
         painter.drawRect(option.rect.adjusted(0, 0, -1, -1));

@@ -9,6 +9,8 @@
 #include "platform/ui/Mnemonic.h"
 #include "platform/ui/Palette.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kMargin = 3;          // around the content of a button
@@ -20,6 +22,7 @@ constexpr int kSeparatorWidth = 8;
 
 TToolBar::TToolBar(TComponent* owner) : TWidget(owner) {
     setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(u"Barra de botões"_s);
 }
 
 TToolBar::~TToolBar() {

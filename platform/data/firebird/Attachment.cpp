@@ -83,6 +83,7 @@ std::shared_ptr<Attachment> Attachment::Reach(const AttachSettings& settings, bo
     Firebird::IProvider* provider = ClientLibrary().getDispatcher();
     Firebird::IAttachment* handle = nullptr;
     const QByteArray place = PlaceOf(settings).toUtf8();
+    const SignalKeeper signals;
     try {
         ClientCall(CallKind::Attach, EncodingOfName(settings.CharacterSet),
                    [&](Firebird::ThrowStatusWrapper& status) {

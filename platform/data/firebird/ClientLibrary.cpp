@@ -1,5 +1,6 @@
 #include "platform/data/firebird/ClientLibrary.h"
 
+#include <csignal>
 #include <QDir>
 #include <QStandardPaths>
 #include "platform/data/firebird/FbApi.h"
@@ -33,6 +34,21 @@ Firebird::IMaster* MakeReady() {
 Firebird::IMaster& ClientLibrary() {
     static Firebird::IMaster* const master = MakeReady();
     return *master;
+}
+
+struct SignalKeeper::Dispositions {
+    struct sigaction Term;
+    struct sigaction Int;
+};
+
+SignalKeeper::SignalKeeper() : FBefore(std::make_unique<Dispositions>()) {
+    sigaction(SIGTERM, nullptr, &FBefore->Term);
+    sigaction(SIGINT, nullptr, &FBefore->Int);
+}
+
+SignalKeeper::~SignalKeeper() {
+    sigaction(SIGTERM, &FBefore->Term, nullptr);
+    sigaction(SIGINT, &FBefore->Int, nullptr);
 }
 
 }  // namespace fichario

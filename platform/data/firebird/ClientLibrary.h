@@ -1,5 +1,6 @@
 // The client library as the process uses it, made ready once.
 #pragma once
+#include <memory>
 
 namespace Firebird {
 class IMaster;
@@ -11,5 +12,19 @@ namespace fichario {
 // when the environment names none (the usual one belongs to the server's account, and all programs of one
 // user must share one), and denies it to end all connections when the process gets a signal.
 Firebird::IMaster& ClientLibrary();
+
+// Keeps what the process does at SIGTERM and SIGINT while it stands: the library takes both over at its first
+// attach, and then the process would no longer end by them.
+class SignalKeeper {
+public:
+    SignalKeeper();
+    ~SignalKeeper();
+    SignalKeeper(const SignalKeeper&) = delete;
+    SignalKeeper& operator=(const SignalKeeper&) = delete;
+
+private:
+    struct Dispositions;
+    std::unique_ptr<Dispositions> FBefore;
+};
 
 }  // namespace fichario

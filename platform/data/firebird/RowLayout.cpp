@@ -93,14 +93,14 @@ void PutFixed(WireKind kind, int scale, const Variant& value, uint8_t* at) {
 }  // namespace
 
 RowLayout::Place RowLayout::PlaceOf(const ColumnInfo& column) {
-    Place place{column.Kind,
-                column.Encoding,
-                static_cast<uint8_t>(column.Scale),
-                0,
-                column.Offset,
-                column.NullOffset,
-                column.Length,
-                0};
+    Place place{};
+    place.Kind = column.Kind;
+    place.Type = FieldTypeOf(column);
+    place.Encoding = column.Encoding;
+    place.Scale = static_cast<uint8_t>(column.Scale);
+    place.Offset = column.Offset;
+    place.NullOffset = column.NullOffset;
+    place.Length = column.Length;
     place.Size = place.IsText() ? (column.Length > 255 ? 2 : 1) : FixedSize(column.Kind);
     return place;
 }

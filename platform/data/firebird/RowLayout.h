@@ -40,11 +40,13 @@ class RowLayout {
     // A text column's bytes in the column's encoding; empty for null.
     std::span<const uint8_t> Text(const uint8_t* row, int column) const;
     TextEncoding Encoding(int column) const { return FPlaces[static_cast<size_t>(column)].Encoding; }
+    TFieldType Type(int column) const { return FPlaces[static_cast<size_t>(column)].Type; }
     bool IsText(int column) const { return FPlaces[static_cast<size_t>(column)].IsText(); }
 
   private:
     struct Place {
         WireKind Kind;
+        TFieldType Type;
         TextEncoding Encoding;
         uint8_t Scale;
         uint8_t Size;     // fixed: bytes; text: bytes of the length in front of it

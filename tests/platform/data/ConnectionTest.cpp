@@ -90,6 +90,8 @@ TEST_F(DataTest, AnOpenDatasetHoldsNothingBack) {
 TEST_F(DataTest, ClosingTheConnectionClosesItsDatasets) {
     TFDQuery* query = Open(u"SELECT * FROM CLIENTE"_s);
     query->Edit();
+    int closed = 0;
+    query->AfterClose = [&](TDataSet*) { ++closed; };
     FConnection->Close();
     EXPECT_FALSE(query->Active());
     EXPECT_EQ(query->FieldCount(), 15);
@@ -97,6 +99,7 @@ TEST_F(DataTest, ClosingTheConnectionClosesItsDatasets) {
     EXPECT_TRUE(FConnection->Connected());
     FConnection->Free();
     EXPECT_EQ(query->Connection(), nullptr);
+    EXPECT_EQ(closed, 2);
     FConnection = nullptr;
 }
 
@@ -135,11 +138,11 @@ TEST_F(DataTest, AnyClientCallMayFail) {
         if (reconnect) FConnection->Close();
     };
     for (const int64_t code : {int64_t{335544794}, fichario::kConnectionLost}) {
-        reconnect = code == fichario::kConnectionLost;
         bool failed = true;
         int nth = 0;
         while (failed) {
             ++nth;
+            reconnect = code == fichario::kConnectionLost;
             SCOPED_TRACE(::testing::Message() << "call " << nth << " fails with " << code);
             TFDQuery* query = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
             {
@@ -150,6 +153,7 @@ TEST_F(DataTest, AnyClientCallMayFail) {
             }
             query->Free();
             Exec(u"DELETE FROM CLIENTE WHERE ID > 3"_s);
+            reconnect = false;
             TFDQuery* again = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
             EXPECT_EQ(MessageOf([&] { work(again); }), UnicodeString());
             again->Free();

@@ -130,6 +130,7 @@ TEST_F(LinkTest, LinksSourcesAndDatasetsMayGoDuringANotification) {
     FQuery->Next();
     EXPECT_EQ(FEar.DataSource(), nullptr);
     EXPECT_EQ(third->DataSet(), nullptr);
+    FEar.OnHear = nullptr;
     EXPECT_EQ(FEar.Take(), u"Sa");
 
     auto* source = new TDataSource(FRoot);

@@ -70,9 +70,9 @@ TEST(SqlText, CountingAndKeyedTexts) {
     EXPECT_EQ(shape.CountText(2),
               u"SELECT COUNT(*) FROM (SELECT A, ? FROM T X JOIN U ON U.I = ? WHERE X.B = ? OR 1=1 -- c\n"
               u" PLAN (T NATURAL) \n) R (C1, C2)"_s);
-    EXPECT_EQ(
-        shape.KeyedText({u"ID"_s, u"N"_s}),
-        u"SELECT A, ? FROM T X JOIN U ON U.I = ? \nWHERE (\"X\".\"ID\" = ? AND \"X\".\"N\" = ?) AND ( X.B = ? OR 1=1 -- c\n \n)"_s);
+    EXPECT_EQ(shape.KeyedText({u"ID"_s, u"N"_s}),
+              u"SELECT A, ? FROM T X JOIN U ON U.I = ? \n"
+              u"WHERE (\"X\".\"ID\" = ? AND \"X\".\"N\" = ?) AND ( X.B = ? OR 1=1 -- c\n \n)"_s);
     EXPECT_EQ(shape.ParamsBeforeWhere(), 2);
     EXPECT_TRUE(
         SqlShape(u"SELECT A FROM T ORDER BY A ROWS 5"_s).CountText(1).contains(u"ORDER BY A ROWS 5\n"_s));

@@ -23,35 +23,39 @@ TEST(RowDirectory, GoesOnBeyond32Bits) {
     EXPECT_EQ(rows.At(1), 0xFFFFFFFFu);
 }
 
-// A message of a number and a text whose rows outgrow several chunks, the second kind a chunk each.
+// A number and texts: as one text the rows fill several chunks, as forty each row needs a chunk of its own.
 TEST(RowStore, KeepsRowsOfAnyLength) {
-    for (const uint32_t length : {30000u, 2'000'000u}) {
-        ColumnInfo number, text;
-        number.Kind = WireKind::Long;
-        number.NullOffset = 4;
-        text.Kind = WireKind::Text;
-        text.Length = length;
-        text.Offset = 6;
-        text.NullOffset = 6 + length;
-        RowStore store{RowLayout({number, text})};
-        std::vector<uint8_t> message(8 + length, 'a');
-        message[4] = message[5] = message[6 + length] = message[7 + length] = 0;
+    constexpr uint32_t kLength = 30000;
+    for (const uint32_t texts : {1u, 40u}) {
+        ColumnList columns(1 + texts);
+        columns[0].NullOffset = 4;
+        for (uint32_t i = 0; i < texts; ++i) {
+            columns[i + 1].Kind = WireKind::Text;
+            columns[i + 1].Length = kLength;
+            columns[i + 1].Offset = 6 + i * kLength;
+            columns[i + 1].NullOffset = 4;
+        }
+        RowStore store{RowLayout(columns)};
+        std::vector<uint8_t> message(6 + texts * kLength, 'a');
+        message[4] = message[5] = 0;
+        const int last = static_cast<int>(texts);
         for (int32_t i = 0; i < 100; ++i) {
             std::memcpy(message.data(), &i, sizeof i);
-            if (i == 50) message[5 + length] = ' ';
+            if (i == 50) message.back() = ' ';
             store.Append(message.data());
-            if (length > 30000 && i > 52) break;
         }
         store.InsertNull(0);
-        EXPECT_TRUE(store.Value(0, 0).IsNull() && store.Value(0, 1).IsNull());
+        EXPECT_TRUE(store.Value(0, 0).IsNull() && store.Value(0, last).IsNull());
         for (int i = 1; i < store.Count(); ++i) {
             ASSERT_EQ(store.Value(i, 0).ToInt(), i - 1);
-            ASSERT_EQ(store.Layout().Text(store.Row(i), 1).size(), i > 50 ? length - 1 : length);
+            ASSERT_EQ(store.Layout().Text(store.Row(i), last).size(), i > 50 ? kLength - 1 : kLength);
         }
-        store.SetValues(3, {Variant::Null(), Variant(u"é"_s)});
+        std::vector<Variant> values(1 + texts, Variant::Null());
+        values.back() = u"é"_s;
+        store.SetValues(3, values);
         store.CopyRow(4, store, 3);
         EXPECT_TRUE(store.Value(4, 0).IsNull());
-        EXPECT_EQ(store.Value(4, 1), Variant(u"é"_s));
+        EXPECT_EQ(store.Value(4, last), Variant(u"é"_s));
     }
 }
 
@@ -65,6 +69,23 @@ TEST(WireTime, EveryDayAndMomentComesBack) {
     EXPECT_EQ(FromWire({51544, 432'000'000}), JoinDateTime(EncodeDate(2000, 1, 1), EncodeTime(12, 0, 0)));
     EXPECT_EQ(ToWire(JoinDateTime(EncodeDate(1899, 12, 29), EncodeTime(6, 0, 0))),
               (WireStamp{15017, 216'000'000}));
+}
+
+TEST(TextEncoding, NoCharacterIsLostInSilence) {
+    EXPECT_EQ(EncodingOfName(u"utf8"), TextEncoding::Utf8);
+    for (const TextEncoding encoding : {TextEncoding::Windows1252, TextEncoding::Utf8}) {
+        int held = 0;
+        for (char32_t code = 1; code <= 0x10FFFF; code += code < 0x3000 ? 1 : 37) {
+            const UnicodeString text = UnicodeString::fromUcs4(&code, 1);
+            const auto bytes = EncodeText(encoding, text);
+            ASSERT_EQ(FirstForeign(encoding, u"a"_s + text), bytes ? UnicodeString() : text)
+                << static_cast<uint32_t>(code);
+            if (!bytes) continue;
+            ++held;
+            ASSERT_EQ(DecodeText(encoding, *bytes), text) << static_cast<uint32_t>(code);
+        }
+        EXPECT_EQ(held == 255, encoding == TextEncoding::Windows1252);
+    }
 }
 
 }  // namespace

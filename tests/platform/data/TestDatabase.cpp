@@ -17,6 +17,9 @@ const TStringArray kTables = {
     u"IF (NEW.ID IS NULL) THEN NEW.ID = GEN_ID(GEN_CLIENTE, 1) + 1000; END"_s,
     u"CREATE EXCEPTION PROIBIDO 'Não é permitido.'"_s,
     u"CREATE TABLE NUMEROS (N INTEGER NOT NULL PRIMARY KEY, T VARCHAR(10))"_s,
+};
+
+const TStringArray kRows = {
     u"INSERT INTO CIDADE VALUES (1, 'São Paulo')"_s,
     u"INSERT INTO CIDADE VALUES (2, 'Curitiba')"_s,
     u"INSERT INTO CLIENTE VALUES (1, 'Ação', 'SP', 1234.50, 70.5, 3, 9000000000, '2000-01-31', '12:30:00', "
@@ -35,6 +38,13 @@ void SetParams(TFDConnection& connection, const UnicodeString& path, const Unico
     params.SetValue(u"CharacterSet"_s, characterSet);
 }
 
+// Few commits: each costs a wait for the disk.
+void Run(TFDConnection& connection, const TStringArray& statements) {
+    connection.StartTransaction();
+    for (const UnicodeString& sql : statements) connection.ExecSQL(sql);
+    connection.Commit();
+}
+
 // The database that all tests begin with.
 UnicodeString Master() {
     static QTemporaryDir folder;
@@ -43,7 +53,8 @@ UnicodeString Master() {
         auto* connection = new TFDConnection(nullptr);
         SetParams(*connection, file, u"ISO8859_1"_s);
         connection->CreateDatabase();
-        for (const UnicodeString& sql : kTables) connection->ExecSQL(sql);
+        Run(*connection, kTables);
+        Run(*connection, kRows);
         connection->Free();
         return file;
     }();

@@ -1,0 +1,153 @@
+// The journey of a clerk, by key events only, checked over a second connection: find a customer, change it, include
+// one, soft-delete it, find it again among the deleted.
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+#include "demo/dados/Banco.h"
+#include "demo/FrmClientes.h"
+#include "demo/FrmPrincipal.h"
+#include "platform/data/DataSet.h"
+#include "platform/system/Paths.h"
+#include "platform/ui/Application.h"
+#include "tests/support/Screen.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kPergunta = 36;
+constexpr int kAviso = 48;
+
+class Jornada : public testing::Test {
+  protected:
+    void SetUp() override {
+        SetProgramFolder(Folder.path());
+        const UnicodeString path = Folder.filePath(u"c.fdb"_s);
+        CriarBancoDeExemplo(path, 300);
+        Data->OpenDatabase(path);
+        ApontarConexao(*Second, path);
+        Main = NewForm<TFrmPrincipal>(Application, Data);
+        Settle();
+    }
+    void TearDown() override {
+        Main->Free();
+        Data->Free();
+        Second->Free();
+        SetProgramFolder({});
+    }
+    TFrmClientes* Clientes() const {
+        return Main->OpenForms().empty() ? nullptr : dynamic_cast<TFrmClientes*>(Main->OpenForms().front());
+    }
+    TFrmBase* Ficha() const { return Clientes()->ChildForm(); }
+    UnicodeString Current(const UnicodeString& field) const {
+        return Clientes()->MainDS->DataSet()->FieldByName(field)->AsString();
+    }
+    UnicodeString Stored(const UnicodeString& sql) { return Second->ExecSQLScalar(sql).ToText(); }
+    void Search(const UnicodeString& text) {
+        Press(VK_F3);
+        Press('A', ssCtrl);
+        TypeText(text);
+        EXPECT_TRUE(Until([&] { return !Clientes()->LookingForRecords; }));
+        Press(VK_RETURN);
+    }
+    bool FichaClosed() {
+        return Until([&] { return !Ficha(); });
+    }
+
+    QTemporaryDir Folder;
+    TDM_Comercial* Data = new TDM_Comercial(nullptr);
+    TFDConnection* Second = new TFDConnection(nullptr);
+    TFrmPrincipal* Main = nullptr;
+};
+
+TEST_F(Jornada, OfAClerk) {
+    Press('C', ssAlt);  // &Cadastros
+    Press('C');         // &Clientes...
+    ASSERT_TRUE(Until([&] { return Clientes() != nullptr; }));
+    ASSERT_TRUE(Until([&] { return Clientes()->RecordCount() > 0; }));
+
+    // Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the grid.
+    Press(VK_INSERT);
+    ASSERT_TRUE(Ficha());
+    EXPECT_EQ(Ficha()->Caption(), u"Clientes [Incluindo]"_s);
+    ExpectBox(u"Entre com um valor para o campo \"Nome\" antes de prosseguir."_s, u"Aviso"_s, kAviso);
+    Press(VK_F12);
+    TypeText(u"Zélia D'Ávila"_s);
+    Press(VK_RETURN);
+    Press(VK_RETURN);
+    TypeText(u"12345678900"_s);
+    ExpectBox(u"Número de CPF inválido! Entre com um CPF válido antes de prosseguir."_s, u"Aviso"_s, kAviso);
+    Press(VK_F12);
+    ASSERT_TRUE(Ficha());
+    Press('A', ssCtrl);
+    TypeText(u"52998224725"_s);
+    ExpectBox(u"Confirma os dados?"_s, u"Confirmação"_s, kPergunta, IDYES);
+    Press(VK_F12);
+    ASSERT_TRUE(FichaClosed());
+    EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
+    EXPECT_EQ(Stored(u"SELECT NR_CPF FROM CLIENTE WHERE NM_CLI = 'Zélia D''Ávila'"_s), u"52998224725"_s);
+
+    // Find it without accents and change it on the second page.
+    Search(u"zelia"_s);
+    EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
+    Press(VK_RETURN);
+    ASSERT_TRUE(Ficha());
+    Press(VK_NEXT);
+    Press(VK_RETURN);
+    Press('A', ssCtrl);
+    TypeText(u"1234,56"_s);
+    Press(VK_F12);
+    ASSERT_TRUE(FichaClosed());
+    EXPECT_EQ(Stored(u"SELECT VL_LIMITE FROM CLIENTE WHERE NM_CLI STARTING WITH 'Zélia'"_s), u"1234,56"_s);
+    EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
+
+    // Escape asks before it drops a change, and No keeps what was typed.
+    Press(VK_RETURN);
+    ASSERT_TRUE(Ficha());
+    TypeText(u"Outro nome"_s);
+    ExpectBox(u"Você tem certeza que deseja cancelar?"_s, u"Confirmação"_s, kPergunta, IDNO);
+    Press(VK_ESCAPE);
+    ASSERT_TRUE(Ficha());
+    ExpectBox(u"Você tem certeza que deseja cancelar?"_s, u"Confirmação"_s, kPergunta, IDYES);
+    Press(VK_ESCAPE);
+    ASSERT_TRUE(FichaClosed());
+    EXPECT_EQ(Stored(u"SELECT COUNT(*) FROM CLIENTE WHERE NM_CLI = 'Outro nome'"_s), u"0"_s);
+
+    // Delete: the row stays, marked, and leaves the grid until the deleted ones are shown.
+    Click(Clientes()->BtnExcluir);
+    ASSERT_TRUE(Ficha());
+    ExpectBox(u"Tem certeza que deseja excluir esse registro?"_s, u"Confirmação"_s, kPergunta, IDYES);
+    Press(VK_F12);
+    ASSERT_TRUE(FichaClosed());
+    EXPECT_EQ(Stored(u"SELECT TF_DEL FROM CLIENTE WHERE NM_CLI STARTING WITH 'Zélia'"_s), u"S"_s);
+    Search(u"zelia"_s);
+    EXPECT_TRUE(Clientes()->MainDS->DataSet()->IsEmpty());
+    Clientes()->ExibirRegistrosExcludos1->Click();
+    Search(u"zelia"_s);
+    EXPECT_EQ(Current(u"TF_DEL"_s), u"S"_s);
+}
+
+TEST_F(Jornada, WithoutRightsOnlyLooks) {
+    Main->Clientes().SetRights({});
+    Main->OpenClientes();
+    Press(VK_RETURN);
+    ASSERT_TRUE(Ficha());
+    EXPECT_EQ(Ficha()->Caption(), u"Clientes [Visualizando]"_s);
+    Press(VK_F12);  // there is nothing to confirm
+    EXPECT_TRUE(Ficha());
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(FichaClosed());
+}
+
+TEST_F(Jornada, TheListOfTownsMovesWithEveryKey) {
+    Main->OpenMunicipios();
+    auto* towns = dynamic_cast<TFrmViz_Master*>(Main->OpenForms().front());
+    Press(VK_F3);
+    TypeText(u"SÃO PAULO"_s);
+    EXPECT_EQ(towns->MainDS->DataSet()->FieldByName(u"NM_MUN"_s)->AsString(), u"São Paulo"_s);
+    ExpectBox(u"Esse módulo do sistema está disponível somente em modo consulta."_s, u"Erro"_s, 16);
+    Press(VK_RETURN);
+    Press(VK_RETURN);
+}
+
+}  // namespace
