@@ -54,15 +54,15 @@ void TFrmClientes::CreateControls() {
     };
     MainDS->SetDataSet(clientes);
 
-    DBGrd->AddColumn(u"CD_CLI"_s, u"Código"_s, 70);
-    DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 260);
-    DBGrd->AddColumn(u"FANTASIA"_s, u"Nome fantasia"_s, 170);
-    DBGrd->AddColumn(u"NR_CPF"_s, u"CPF/CNPJ"_s, 120);
-    DBGrd->AddColumn(u"CIDADE"_s, u"Cidade"_s, 150);
+    DBGrd->AddColumn(u"CD_CLI"_s, u"Código"_s, 60);
+    DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 230);
+    DBGrd->AddColumn(u"FANTASIA"_s, u"Nome fantasia"_s, 140);
+    DBGrd->AddColumn(u"NR_CPF"_s, u"CPF/CNPJ"_s, 115);
+    DBGrd->AddColumn(u"CIDADE"_s, u"Cidade"_s, 145);
     DBGrd->AddColumn(u"NM_EST"_s, u"UF"_s, 40);
-    DBGrd->AddColumn(u"DT_CAD"_s, u"Cadastro"_s, 90);
-    DBGrd->AddColumn(u"VL_LIMITE"_s, u"Limite de crédito"_s, 120);
-    TColumn* activeColumn = DBGrd->AddColumn(u"TF_ATIVO"_s, u"Ativo"_s, 60);
+    DBGrd->AddColumn(u"DT_CAD"_s, u"Cadastro"_s, 85);
+    DBGrd->AddColumn(u"VL_LIMITE"_s, u"Limite de crédito"_s, 118);
+    TColumn* activeColumn = DBGrd->AddColumn(u"TF_ATIVO"_s, u"Ativo"_s, 55);
     activeColumn->PickList().SetText(u"SIM;S\nNÃO;N"_s);
 }
 

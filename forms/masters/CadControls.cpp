@@ -143,7 +143,28 @@ void TFrmCad_Master::SetTabVisible(TTabSheet* Page, bool Visible) {
 }
 
 void TFrmCad_Master::BtnTabSetTabSelected(TIceTab* Tab) {
+    if (Tab->Tag() == PageControl->ActivePageIndex()) return;
+    LeavePage();
     PageControl->SetActivePageIndex(Tab->Tag());
+    EnterPage();
+}
+
+// What is being typed reaches its field; a text that cannot be stored keeps its page in sight.
+void TFrmCad_Master::LeavePage() {
+    if (!Showing() || !PageControl->CanFocus()) return;
+    try {
+        PageControl->SetFocus();
+    } catch (...) {
+        SelectTabOf(PageControl->ActivePage());
+        throw;
+    }
+}
+
+void TFrmCad_Master::EnterPage() {
+    if (!Showing()) return;
+    for (TControl* control : PageControl->ActivePage()->Controls()) {
+        if (control->TabStop() && control->CanFocus()) return control->SetFocus();
+    }
 }
 
 // A control outside the pages leaves them as they are.

@@ -107,6 +107,8 @@ class TFrmCad_Master : public TFrmBase {
     TToolButton* AddButton(const UnicodeString& Name, const UnicodeString& Caption, int ImageIndex);
     void WireForm();
     void SelectTabOf(const TTabSheet* Page);
+    void LeavePage();
+    void EnterPage();
     void CheckBinding() const;
     void ShowMode();
     void ShowViewMode();
