@@ -3,6 +3,7 @@
 //
 //     bench_browse                          10 000 and 1 000 000 customers
 //     FICHARIO_BENCH_ROWS=100000 bench_browse
+//     FICHARIO_BENCH_DIR=DIR bench_browse   keeps the databases in DIR for the next run
 #include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -49,7 +50,8 @@ QTemporaryDir& Folder() {
 }
 
 UnicodeString Database(int rows) {
-    const UnicodeString path = Folder().filePath(u"clientes-%1.fdb"_s.arg(rows));
+    const UnicodeString kept = qEnvironmentVariable("FICHARIO_BENCH_DIR");
+    const UnicodeString path = JoinPath(kept.isEmpty() ? Folder().path() : kept, u"clientes-%1.fdb"_s.arg(rows));
     if (!QFile::exists(path)) CriarBancoDeExemplo(path, rows);
     return path;
 }
@@ -80,7 +82,9 @@ int main(int argc, char** argv) {
         ->Arg(kSmall)
         ->Arg(LargeRows())
         ->Unit(benchmark::kMillisecond)
-        ->Iterations(20);
+        ->Iterations(20)
+        ->Repetitions(5)
+        ->ReportAggregatesOnly(true);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -68,11 +68,17 @@ void TFrmClientes::CreateControls() {
 
 void TFrmClientes::FormCreate(TComponent* Sender) {
     TFrmViz_Master::FormCreate(Sender);
-    RefreshData();
+    ShowRecords();
 }
 
 void TFrmClientes::DBGrdTitleClick(TColumn* Column) {
     TFrmViz_Master::DBGrdTitleClick(Column);
+    ShowRecords();
+}
+
+// The screen shows its records from the start, and after another column was chosen; a remembered order or a date
+// column may have brought them already.
+void TFrmClientes::ShowRecords() {
     if (!MainDS->DataSet()->Active()) RefreshData();
 }
 

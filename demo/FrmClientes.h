@@ -16,6 +16,8 @@ class TFrmClientes : public TFrmViz_Master {
     void CreateControls() override;
 
   private:
+    void ShowRecords();
+
     TDM_Comercial* FData;
 };
 

@@ -54,6 +54,7 @@ void TMaskEdit::SetEditMask(const UnicodeString& mask) {
     if (mask == EditMask()) return;
     const UnicodeString value = Text();
     FMask = TEditMask(mask);
+    if (!FMask.IsEmpty()) SetMaxLength(0);  // a limit shorter than the mask would cut its places off
     DoSetText(value);
 }
 
@@ -70,7 +71,7 @@ void TMaskEdit::TypeAt(const UnicodeString& letters) {
     int caret = cursorPosition();
     for (const QChar letter : letters) {
         const int place = NextPlace(caret);
-        if (place >= FMask.Length()) break;
+        if (place >= std::min<qsizetype>(FMask.Length(), all.size())) break;
         const auto accepted = FMask.Accept(place + 1, letter.unicode());
         if (!accepted) continue;
         all[place] = QChar(*accepted);

@@ -102,6 +102,7 @@ TEST_F(StdCtrlsTest, WhatAnExitThrowsOutOfAChangeReachesTheCaller) {
 
 TEST_F(StdCtrlsTest, MaskedEditTypesErasesAndPastes) {
     auto* edit = Make<TMaskEdit>();
+    edit->SetMaxLength(3);  // shorter than the mask, which then holds
     edit->SetEditMask(u"99/99/0000;0;_"_s);
     EXPECT_EQ(edit->EditText(), u"__/__/____"_s);
     edit->SetFocus();
