@@ -54,19 +54,27 @@ class Jornada : public testing::Test {
         return Until([&] { return !Ficha(); });
     }
 
+    void OpenClientes();
+    void IncludeCustomer();
+    void FindAndChange();
+    void CancelAChange();
+    void DeleteAndFindAgain();
+
     QTemporaryDir Folder;
     TDM_Comercial* Data = new TDM_Comercial(nullptr);
     TFDConnection* Second = new TFDConnection(nullptr);
     TFrmPrincipal* Main = nullptr;
 };
 
-TEST_F(Jornada, OfAClerk) {
+void Jornada::OpenClientes() {
     Press('C', ssAlt);  // &Cadastros
     Press('C');         // &Clientes...
     ASSERT_TRUE(Until([&] { return Clientes() != nullptr; }));
     ASSERT_TRUE(Until([&] { return Clientes()->RecordCount() > 0; }));
+}
 
-    // Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the grid.
+// Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the grid.
+void Jornada::IncludeCustomer() {
     Press(VK_INSERT);
     ASSERT_TRUE(Ficha());
     EXPECT_EQ(Ficha()->Caption(), u"Clientes [Incluindo]"_s);
@@ -86,8 +94,10 @@ TEST_F(Jornada, OfAClerk) {
     ASSERT_TRUE(FichaClosed());
     EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
     EXPECT_EQ(Stored(u"SELECT NR_CPF FROM CLIENTE WHERE NM_CLI = 'Zélia D''Ávila'"_s), u"52998224725"_s);
+}
 
-    // Find it without accents and change it on the second page.
+// Find it without accents and change it on the second page.
+void Jornada::FindAndChange() {
     Search(u"zelia"_s);
     EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
     Press(VK_RETURN);
@@ -100,8 +110,10 @@ TEST_F(Jornada, OfAClerk) {
     ASSERT_TRUE(FichaClosed());
     EXPECT_EQ(Stored(u"SELECT VL_LIMITE FROM CLIENTE WHERE NM_CLI STARTING WITH 'Zélia'"_s), u"1234,56"_s);
     EXPECT_EQ(Current(u"NM_CLI"_s), u"Zélia D'Ávila"_s);
+}
 
-    // Escape asks before it drops a change, and No keeps what was typed.
+// Escape asks before it drops a change, and No keeps what was typed.
+void Jornada::CancelAChange() {
     Press(VK_RETURN);
     ASSERT_TRUE(Ficha());
     TypeText(u"Outro nome"_s);
@@ -112,8 +124,10 @@ TEST_F(Jornada, OfAClerk) {
     Press(VK_ESCAPE);
     ASSERT_TRUE(FichaClosed());
     EXPECT_EQ(Stored(u"SELECT COUNT(*) FROM CLIENTE WHERE NM_CLI = 'Outro nome'"_s), u"0"_s);
+}
 
-    // Delete: the row stays, marked, and leaves the grid until the deleted ones are shown.
+// Delete: the row stays, marked, and leaves the grid until the deleted ones are shown.
+void Jornada::DeleteAndFindAgain() {
     Click(Clientes()->BtnExcluir);
     ASSERT_TRUE(Ficha());
     ExpectBox(u"Tem certeza que deseja excluir esse registro?"_s, u"Confirmação"_s, kPergunta, IDYES);
@@ -125,6 +139,14 @@ TEST_F(Jornada, OfAClerk) {
     Clientes()->ExibirRegistrosExcludos1->Click();
     Search(u"zelia"_s);
     EXPECT_EQ(Current(u"TF_DEL"_s), u"S"_s);
+}
+
+TEST_F(Jornada, OfAClerk) {
+    ASSERT_NO_FATAL_FAILURE(OpenClientes());
+    ASSERT_NO_FATAL_FAILURE(IncludeCustomer());
+    ASSERT_NO_FATAL_FAILURE(FindAndChange());
+    ASSERT_NO_FATAL_FAILURE(CancelAChange());
+    ASSERT_NO_FATAL_FAILURE(DeleteAndFindAgain());
 }
 
 TEST_F(Jornada, WithoutRightsOnlyLooks) {
