@@ -1,5 +1,5 @@
-// Opening the customers' screen on a large table beside the same on a small one: the first rows must be painted
-// without waiting for the rest, nor for the count. Ratio wanted: at most 1.2.
+// Opening the customers' screen on a large table beside the same on a small one: the first rows must be
+// painted without waiting for the rest, nor for the count. Ratio wanted: at most 1.2.
 //
 //     bench_browse                          10 000 and 1 000 000 customers
 //     FICHARIO_BENCH_ROWS=100000 bench_browse
@@ -51,7 +51,8 @@ QTemporaryDir& Folder() {
 
 UnicodeString Database(int rows) {
     const UnicodeString kept = qEnvironmentVariable("FICHARIO_BENCH_DIR");
-    const UnicodeString path = JoinPath(kept.isEmpty() ? Folder().path() : kept, u"clientes-%1.fdb"_s.arg(rows));
+    const UnicodeString path =
+        JoinPath(kept.isEmpty() ? Folder().path() : kept, u"clientes-%1.fdb"_s.arg(rows));
     if (!QFile::exists(path)) CriarBancoDeExemplo(path, rows);
     return path;
 }

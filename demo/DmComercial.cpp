@@ -3,7 +3,8 @@
 #include "demo/dados/Banco.h"
 #include "platform/data/Field.h"
 
-TDM_Comercial::TDM_Comercial(TComponent* AOwner) : TDM_Base(AOwner, nullptr), FConnection(new TFDConnection(this)) {}
+TDM_Comercial::TDM_Comercial(TComponent* AOwner)
+    : TDM_Base(AOwner, nullptr), FConnection(new TFDConnection(this)) {}
 
 void TDM_Comercial::OpenDatabase(const UnicodeString& path) {
     ApontarConexao(*FConnection, path);

@@ -13,13 +13,17 @@ struct TCaption {
     const char16_t* Caption;
 };
 
-constexpr TCaption kCaptions[] = {
-    {u"CD_CLI", u"Código"},         {u"NM_CLI", u"Nome"},
-    {u"FANTASIA", u"Nome fantasia"}, {u"NR_CPF", u"CPF/CNPJ"},
-    {u"NR_INS_EST", u"Inscrição estadual"}, {u"NM_EST", u"UF"},
-    {u"CIDADE", u"Cidade"},         {u"E_MAIL", u"E-mail"},
-    {u"DT_CAD", u"Cadastro"},       {u"VL_LIMITE", u"Limite de crédito"},
-    {u"TF_ATIVO", u"Ativo"}};
+constexpr TCaption kCaptions[] = {{u"CD_CLI", u"Código"},
+                                  {u"NM_CLI", u"Nome"},
+                                  {u"FANTASIA", u"Nome fantasia"},
+                                  {u"NR_CPF", u"CPF/CNPJ"},
+                                  {u"NR_INS_EST", u"Inscrição estadual"},
+                                  {u"NM_EST", u"UF"},
+                                  {u"CIDADE", u"Cidade"},
+                                  {u"E_MAIL", u"E-mail"},
+                                  {u"DT_CAD", u"Cadastro"},
+                                  {u"VL_LIMITE", u"Limite de crédito"},
+                                  {u"TF_ATIVO", u"Ativo"}};
 
 // The grid shows some of the columns, the form all of them.
 void LabelCliente(TDataSet* clientes) {
@@ -35,17 +39,17 @@ void LabelCliente(TDataSet* clientes) {
 TFrmClientes::TFrmClientes(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData)
     : TFrmViz_Master(
           AOwner, AModule,
-          [AData](TComponent* owner, TModuleInstance* module, unsigned char mode, TKeyType keyType, bool load) {
-              return NewForm<TFrmCadCliente>(owner, module, mode, keyType, load, AData);
-          },
+          [AData](TComponent* owner, TModuleInstance* module, unsigned char mode, TKeyType keyType,
+                  bool load) { return NewForm<TFrmCadCliente>(owner, module, mode, keyType, load, AData); },
           vtFilter, ktFieldProviderFlag),
       FData(AData) {}
 
 void TFrmClientes::CreateControls() {
     TFrmViz_Master::CreateControls();
     TFDQuery* clientes = FData->NewQuery(
-        this, u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, CIDADE, NM_EST, DT_CAD, VL_LIMITE, TF_ATIVO, TF_DEL\n"
-              "FROM CLIENTE"_s);
+        this,
+        u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, CIDADE, NM_EST, DT_CAD, VL_LIMITE, TF_ATIVO, TF_DEL\n"
+        "FROM CLIENTE"_s);
     LabelCliente(clientes);
     clientes->SetTag(clientes->FieldByName(u"NM_CLI"_s)->Index());
     TField* active = clientes->FieldByName(u"TF_ATIVO"_s);
@@ -76,14 +80,14 @@ void TFrmClientes::DBGrdTitleClick(TColumn* Column) {
     ShowRecords();
 }
 
-// The screen shows its records from the start, and after another column was chosen; a remembered order or a date
-// column may have brought them already.
+// The screen shows its records from the start, and after another column was chosen; a remembered order or a
+// date column may have brought them already.
 void TFrmClientes::ShowRecords() {
     if (!MainDS->DataSet()->Active()) RefreshData();
 }
 
-TFrmCadCliente::TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, unsigned char AMode, TKeyType AKeyType,
-                               bool ALoadWindowConfig, TDM_Comercial* AData)
+TFrmCadCliente::TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, unsigned char AMode,
+                               TKeyType AKeyType, bool ALoadWindowConfig, TDM_Comercial* AData)
     : TFrmCad_Master(AOwner, AModule, AMode, AKeyType, ALoadWindowConfig), FData(AData) {}
 
 void TFrmCadCliente::CreateControls() {
@@ -97,8 +101,9 @@ void TFrmCadCliente::CreateControls() {
 
 void TFrmCadCliente::CreateQuery() {
     TFDQuery* cliente = FData->NewQuery(
-        this, u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, NR_INS_EST, NM_EST, CIDADE, E_MAIL, DT_CAD, VL_LIMITE,\n"
-              "TF_ATIVO, TF_DEL\nFROM CLIENTE"_s);
+        this,
+        u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, NR_INS_EST, NM_EST, CIDADE, E_MAIL, DT_CAD, VL_LIMITE,\n"
+        "TF_ATIVO, TF_DEL\nFROM CLIENTE"_s);
     LabelCliente(cliente);
     cliente->OnNewRecord = [](TDataSet* record) {
         record->FieldByName(u"DT_CAD"_s)->SetAsDateTime(Date());

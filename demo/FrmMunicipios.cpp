@@ -7,10 +7,10 @@ TFrmMunicipios::TFrmMunicipios(TComponent* AOwner, TModuleInstance* AModule, TDM
 
 void TFrmMunicipios::CreateControls() {
     TFrmViz_Master::CreateControls();
-    TFDQuery* municipios =
-        FData->NewQuery(this, u"SELECT M.CD_MUN, M.NM_MUN, M.SG_UF, U.NM_UF\n"
-                              "FROM MUNICIPIO M JOIN UF U ON U.SG_UF = M.SG_UF\n"
-                              "ORDER BY M.NM_MUN, M.CD_MUN"_s);
+    TFDQuery* municipios = FData->NewQuery(this,
+                                           u"SELECT M.CD_MUN, M.NM_MUN, M.SG_UF, U.NM_UF\n"
+                                           "FROM MUNICIPIO M JOIN UF U ON U.SG_UF = M.SG_UF\n"
+                                           "ORDER BY M.NM_MUN, M.CD_MUN"_s);
     Label(municipios, u"CD_MUN"_s, u"Código"_s);
     Label(municipios, u"NM_MUN"_s, u"Município"_s);
     Label(municipios, u"SG_UF"_s, u"UF"_s);

@@ -5,5 +5,6 @@
 
 class TFrmPrincipal;
 
-// Writes the pictures into `folder` (made when missing) and prints each one's path. Returns the program's exit code.
+// Writes the pictures into `folder` (made when missing) and prints each one's path. Returns the program's
+// exit code.
 int WriteTour(TFrmPrincipal& main, const UnicodeString& folder);

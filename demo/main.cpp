@@ -33,7 +33,8 @@ TOptions ReadOptions(const QApplication& app) {
     parser.addHelpOption();
     parser.addOption({u"banco"_s, u"Arquivo do banco de dados."_s, u"arquivo"_s, CaminhoDoBanco()});
     parser.addOption({u"consulta"_s, u"Abre o programa para um usuário que só pode consultar."_s});
-    parser.addOption({{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
+    parser.addOption(
+        {{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
     parser.process(app);
     return {parser.value(u"banco"_s), parser.value(u"turne"_s), parser.isSet(u"consulta"_s)};
 }

@@ -11,7 +11,9 @@ void TModuleInstance::FormDestroy(TFrmBase* form) {
     if (FInterface) FInterface->FormDestroyed(form);
 }
 
-bool TModuleInstance::GetRight(const UnicodeString& right) const { return FAllRights || FRights.contains(right); }
+bool TModuleInstance::GetRight(const UnicodeString& right) const {
+    return FAllRights || FRights.contains(right);
+}
 
 void TModuleInstance::SetRights(std::set<UnicodeString> rights) {
     FRights = std::move(rights);

@@ -42,22 +42,25 @@ class TModuleInterface {
     // Number of open forms, the main window counted too. New forms are cascaded by it.
     virtual int GetCountActiveModules() const = 0;
 
-    // Shows `waitScreen`, runs `procedure` for `form`, then closes the wait screen. An exception of the procedure
-    // comes through after the wait screen is closed.
+    // Shows `waitScreen`, runs `procedure` for `form`, then closes the wait screen. An exception of the
+    // procedure comes through after the wait screen is closed.
     virtual void ExecuteProcEx(TForm* waitScreen, const std::function<void()>& procedure, TFrmBase* form) = 0;
 
     // Folder of the resources that all modules share (the generic icons), without a trailing separator.
     virtual UnicodeString HostResources() const = 0;
 
-    // The number in the window-state file's name: one file for each user or place of work the host tells apart.
+    // The number in the window-state file's name: one file for each user or place of work the host tells
+    // apart.
     virtual int StateFileNumber() const = 0;
 
-    // Told when a form has been linked to its module, before its create event, and when it is being destroyed.
+    // Told when a form has been linked to its module, before its create event, and when it is being
+    // destroyed.
     virtual void FormCreated(TFrmBase* form) = 0;
     virtual void FormDestroyed(TFrmBase* form) = 0;
 };
 
-// One running module. The host makes it, keeps it alive while any of its forms is open, and may derive from it.
+// One running module. The host makes it, keeps it alive while any of its forms is open, and may derive from
+// it.
 class TModuleInstance {
   public:
     // `host` is not owned. Without SetRights the user holds every right.
@@ -89,11 +92,12 @@ class TModuleInstance {
     int QuantityDecimals() const { return FQuantityDecimals; }
     void SetDecimals(int value, int quantity);
 
-    // Display format of a number field by its tag: 3 is a quantity, anything else a value. "#,##0.00" for two places.
+    // Display format of a number field by its tag: 3 is a quantity, anything else a value. "#,##0.00" for two
+    // places.
     UnicodeString DisplayFormat(int tag) const;
 
-    // Result of a lookup search on its way to a view master: the key fields' names and their values, items separated
-    // by "|;|".
+    // Result of a lookup search on its way to a view master: the key fields' names and their values, items
+    // separated by "|;|".
     UnicodeString ResearchFields;
     UnicodeString ResearchValues;
 

@@ -13,15 +13,20 @@ constexpr int kCascadeStep = 20;
 constexpr int kCascadeForms = 5;
 constexpr int kLargestSize = 16384;  // more than any screen: a stored size beyond it is garbage
 
-UnicodeString StateFolder() { return JoinPath(ProgramFolder(), u"Temp"_s); }
+UnicodeString StateFolder() {
+    return JoinPath(ProgramFolder(), u"Temp"_s);
+}
 
-// A screen works without its stored state, so the user hears of a state file that cannot be written only once.
+// A screen works without its stored state, so the user hears of a state file that cannot be written only
+// once.
 void ReportOnce() {
     static bool reported = false;
     if (!std::exchange(reported, true)) Application->HandleException(std::current_exception());
 }
 
-int SaneSize(int stored, int fallback) { return stored > 0 && stored <= kLargestSize ? stored : fallback; }
+int SaneSize(int stored, int fallback) {
+    return stored > 0 && stored <= kLargestSize ? stored : fallback;
+}
 
 }  // namespace
 

@@ -2,8 +2,8 @@
 #include <QCursor>
 
 #include "forms/base/UFrmBase.h"
-#include "platform/ui/ToolBar.h"
 #include "platform/ui/Application.h"
+#include "platform/ui/ToolBar.h"
 #include "utils/funcoes/Janelas.h"
 
 namespace {
@@ -16,9 +16,13 @@ constexpr int kFramesWidth = 4;
 
 }  // namespace
 
-int TFrmBase::GetMainFormHeight() const { return Application->MainForm()->ClientHeight() - kBarsHeight; }
+int TFrmBase::GetMainFormHeight() const {
+    return Application->MainForm()->ClientHeight() - kBarsHeight;
+}
 
-int TFrmBase::GetMainFormWidth() const { return Application->MainForm()->ClientWidth() - kFramesWidth; }
+int TFrmBase::GetMainFormWidth() const {
+    return Application->MainForm()->ClientWidth() - kFramesWidth;
+}
 
 int TFrmBase::GetButtonsSize() const {
     if (BorderStyle() == bsToolWindow) return SmallCaptionButtonWidth() + 2;

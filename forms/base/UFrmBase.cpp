@@ -19,12 +19,14 @@ constexpr int kMinHeight = 300;
 constexpr int kDesignWidth = 392;
 constexpr int kDesignHeight = 273;
 
-TControl* MainClient() { return Application->MainForm() ? Application->MainForm()->ClientArea() : nullptr; }
+TControl* MainClient() {
+    return Application->MainForm() ? Application->MainForm()->ClientArea() : nullptr;
+}
 
 }  // namespace
 
-TFrmBase::TFrmBase(TComponent* AOwner, TModuleInstance* AModule, const TModuleInfo& AModuleInfo, bool HideParent,
-                   bool LoadWindowConfig, const UnicodeString& ATagStr)
+TFrmBase::TFrmBase(TComponent* AOwner, TModuleInstance* AModule, const TModuleInfo& AModuleInfo,
+                   bool HideParent, bool LoadWindowConfig, const UnicodeString& ATagStr)
     : TForm(AOwner),
       Module(AModule),
       ModuleInfo(AModuleInfo),
@@ -134,9 +136,13 @@ void TFrmBase::Ativa() {
     BringToFront();
 }
 
-void TFrmBase::MenuClick(TComponent*) { Ativa(); }
+void TFrmBase::MenuClick(TComponent*) {
+    Ativa();
+}
 
-void TFrmBase::BeginUpdate() { LockWindowDraw(this); }
+void TFrmBase::BeginUpdate() {
+    LockWindowDraw(this);
+}
 
 void TFrmBase::EndUpdate() {
     SetWidth(Width() - 1);
@@ -154,14 +160,19 @@ void TFrmBase::FormClose(TComponent*, TCloseAction& Action) {
     if (FLoadWindowConfig) SaveWindowState();
 }
 
-void TFrmBase::FormDestroy(TComponent*) { FConfig.reset(); }
+void TFrmBase::FormDestroy(TComponent*) {
+    FConfig.reset();
+}
 
 void TFrmBase::FormActivate(TComponent*) {
     if (Module) Module->SetActivated(true);
-    if (TForm* main = Application->MainForm()) PostMessage(main, MSG_ATIVADO, reinterpret_cast<intptr_t>(this));
+    if (TForm* main = Application->MainForm())
+        PostMessage(main, MSG_ATIVADO, reinterpret_cast<intptr_t>(this));
 }
 
-void TFrmBase::FormDeactivate(TComponent*) { Module->SetActivated(false); }
+void TFrmBase::FormDeactivate(TComponent*) {
+    Module->SetActivated(false);
+}
 
 void TFrmBase::FormKeyPress(TComponent*, WideChar& Key) {
     if (Key != VK_ESCAPE) return;

@@ -1,21 +1,21 @@
 // The base form: every screen of a host derives from it, directly or through a master.
 //
-// It binds the form to a module of the host, remembers window geometry and any other properties of the form's class
-// in a window-state file, emulates maximising inside the main window's client area, and links a form to the form
-// that opened it: the child either takes its opener's place on screen or is centred over it while the opener is
-// disabled.
+// It binds the form to a module of the host, remembers window geometry and any other properties of the form's
+// class in a window-state file, emulates maximising inside the main window's client area, and links a form to
+// the form that opened it: the child either takes its opener's place on screen or is centred over it while
+// the opener is disabled.
 //
 //     class TFrmAvisos : public TFrmBase { … CreateControls makes its controls … };
 //     NewForm<TFrmAvisos>(Application, &module);          // a form of its own
 //     NewForm<TFrmAvisos>(otherForm, &module);            // a child of otherForm
 //
-// The window-state file is "Temp/<number>ws.dat" in the program's folder: an INI file with one section for each form
-// class, shared by all forms of the class. A state file that cannot be written is reported once and never stops a
-// screen; what cannot be read counts as absent.
+// The window-state file is "Temp/<number>ws.dat" in the program's folder: an INI file with one section for
+// each form class, shared by all forms of the class. A state file that cannot be written is reported once and
+// never stops a screen; what cannot be read counts as absent.
 //
-// Two oddities are kept on purpose: a second maximise command restores the form only when its height is the main
-// client height less 99, although maximising sets it less 100; and with fewer than two active modules the cascade
-// offset is negative.
+// Two oddities are kept on purpose: a second maximise command restores the form only when its height is the
+// main client height less 99, although maximising sets it less 100; and with fewer than two active modules
+// the cascade offset is negative.
 #pragma once
 
 #include <memory>
@@ -32,22 +32,24 @@ class TMenuItem;
 enum TIcoType { rtBMP = 0, rtICO = 1, rtPNG = 2 };
 
 // Private messages between the forms and the main window.
-inline constexpr int MSG_PESQUISA = 32022;   // a search result is ready (view master)
-inline constexpr int MSG_ATIVADO = 32023;    // a form was activated (main form); a column drag ended (grid master)
-inline constexpr int MSG_ATIVA = 32024;      // activate the form
-inline constexpr int MSG_DOWN_BTN = 32025;   // pressed state of the form's window-bar button
+inline constexpr int MSG_PESQUISA = 32022;  // a search result is ready (view master)
+inline constexpr int MSG_ATIVADO =
+    32023;  // a form was activated (main form); a column drag ended (grid master)
+inline constexpr int MSG_ATIVA = 32024;     // activate the form
+inline constexpr int MSG_DOWN_BTN = 32025;  // pressed state of the form's window-bar button
 
 class TFrmBase : public TForm {
   public:
-    // AOwner may be another TFrmBase: then this form becomes its single child. HideParent: the opener is hidden while
-    // this form lives (else it is disabled and this form is centred over it). LoadWindowConfig: the geometry is
-    // restored on create and saved on close. ATagStr is kept for the derived form. A null AModule raises
-    // "You must assign a module for any form." when the form is built.
+    // AOwner may be another TFrmBase: then this form becomes its single child. HideParent: the opener is
+    // hidden while this form lives (else it is disabled and this form is centred over it). LoadWindowConfig:
+    // the geometry is restored on create and saved on close. ATagStr is kept for the derived form. A null
+    // AModule raises "You must assign a module for any form." when the form is built.
     TFrmBase(TComponent* AOwner, TModuleInstance* AModule, const TModuleInfo& AModuleInfo, bool HideParent,
              bool LoadWindowConfig, const UnicodeString& ATagStr = {});
 
-    // Adds an image resource to ImgLst (made on first use) and returns its index. Ex takes it from the module's own
-    // resources (rtICO always does), else from the host's. Raises EResNotFound when there is none of that name.
+    // Adds an image resource to ImgLst (made on first use) and returns its index. Ex takes it from the
+    // module's own resources (rtICO always does), else from the host's. Raises EResNotFound when there is
+    // none of that name.
     int AddIcon(const UnicodeString& ResName, TIcoType ResType, bool Ex);
 
     // Loads the form's own icon: "ICO16_" + the module's name, else "ICO16_TFRMBASE" of the host.

@@ -11,7 +11,9 @@ namespace {
 
 constexpr double kNoLimit = 1e300;
 
-double Largest(const TSearchInput& input) { return input.Largest > 0 ? input.Largest : kNoLimit; }
+double Largest(const TSearchInput& input) {
+    return input.Largest > 0 ? input.Largest : kNoLimit;
+}
 
 UnicodeString NumberText(const TSearchInput& input, const UnicodeString& typed) {
     double value = 0;
@@ -20,7 +22,8 @@ UnicodeString NumberText(const TSearchInput& input, const UnicodeString& typed) 
 }
 
 TSearchCriterion NumberCriterion(const TSearchInput& input) {
-    if (!input.Text.isEmpty()) return {{NumberText(input, input.Second), NumberText(input, input.Text)}, true};
+    if (!input.Text.isEmpty())
+        return {{NumberText(input, input.Second), NumberText(input, input.Text)}, true};
     if (!input.Second.isEmpty()) return {{NumberText(input, input.Second)}, false};
     return {{FloatToStr(-Largest(input)), FloatToStr(Largest(input))}, true};
 }
@@ -28,7 +31,8 @@ TSearchCriterion NumberCriterion(const TSearchInput& input) {
 }  // namespace
 
 TSearchKind SearchKindOf(const TField* field) {
-    if (dynamic_cast<const TDateTimeField*>(field) || dynamic_cast<const TSQLTimeStampField*>(field)) return skDate;
+    if (dynamic_cast<const TDateTimeField*>(field) || dynamic_cast<const TSQLTimeStampField*>(field))
+        return skDate;
     return dynamic_cast<const TNumericField*>(field) ? skNumber : skText;
 }
 

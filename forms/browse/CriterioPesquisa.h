@@ -15,13 +15,13 @@ TSearchKind SearchKindOf(const TField* field);
 // The state of the search box. A box that shows its hint counts as empty.
 struct TSearchInput {
     TSearchKind Kind = skText;
-    UnicodeString Text = {};         // the search edit: the text, or the end of a numeric range
-    UnicodeString Second = {};       // the second search edit: the start of a numeric range, or the single number
-    UnicodeString FirstDate = {};    // short date texts of the two pickers
+    UnicodeString Text = {};    // the search edit: the text, or the end of a numeric range
+    UnicodeString Second = {};  // the second search edit: the start of a numeric range, or the single number
+    UnicodeString FirstDate = {};  // short date texts of the two pickers
     UnicodeString LastDate = {};
-    bool PickList = false;      // the column offers a list of values
+    bool PickList = false;           // the column offers a list of values
     UnicodeString PickedValue = {};  // the value behind the list's chosen item
-    double Largest = 0;         // the greatest number that the column can hold; 0: no limit
+    double Largest = 0;              // the greatest number that the column can hold; 0: no limit
 };
 
 // One value, or the two ends of a range, as texts for the filter builder.
@@ -30,10 +30,10 @@ struct TSearchCriterion {
     bool Range = false;
 };
 
-// A date column gives the range of the two pickers; a numeric one the range of both boxes, the single number of the
-// second box alone, or, with both empty, the whole span; a text that is not a number is taken as 0, a number that the
-// column cannot hold as the nearest one that it can, since the server refuses others. A list gives the value chosen,
-// any other column the text typed.
+// A date column gives the range of the two pickers; a numeric one the range of both boxes, the single number
+// of the second box alone, or, with both empty, the whole span; a text that is not a number is taken as 0, a
+// number that the column cannot hold as the nearest one that it can, since the server refuses others. A list
+// gives the value chosen, any other column the text typed.
 TSearchCriterion MakeCriterion(const TSearchInput& input);
 
 // The ORDER BY items: `before`, when it is not blank, and the column's SQL name.

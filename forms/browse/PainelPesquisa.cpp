@@ -152,7 +152,9 @@ void TFrmGrid_Master::WireSearch() {
     OnKeyDown = [this](TComponent* sender, int& key, TShiftState shift) { FormKeyDown(sender, key, shift); };
 }
 
-bool TFrmGrid_Master::ShowsHint(const TMaskEdit* Edit) const { return Edit->Font().italic(); }
+bool TFrmGrid_Master::ShowsHint(const TMaskEdit* Edit) const {
+    return Edit->Font().italic();
+}
 
 UnicodeString TFrmGrid_Master::TypedIn(const TMaskEdit* Edit) const {
     return ShowsHint(Edit) ? UnicodeString() : Edit->Text();
@@ -223,7 +225,8 @@ void TFrmGrid_Master::ShowRange(bool Range) {
         DpPesq2->SetVisible(false);
     }
     if (Range) {
-        PnPesquisa->SetBounds(left + kRangeStartWidth + kRangeGap, PnPesquisa->Top(), kRangeEndWidth, kPanelHeight);
+        PnPesquisa->SetBounds(left + kRangeStartWidth + kRangeGap, PnPesquisa->Top(), kRangeEndWidth,
+                              kPanelHeight);
     } else {
         PnPesquisa->SetBounds(left, PnPesquisa->Top(), kSearchWidth, kPanelHeight);
     }
@@ -238,7 +241,9 @@ void TFrmGrid_Master::FixPesqPanel() {
     LbPesqInt->SetTop(PnPesquisa->Top() + 5);
 }
 
-void TFrmGrid_Master::FormResize(TComponent*) { FixPesqPanel(); }
+void TFrmGrid_Master::FormResize(TComponent*) {
+    FixPesqPanel();
+}
 
 void TFrmGrid_Master::FormKeyDown(TComponent*, int& Key, TShiftState) {
     if (Key == VK_F3) {
@@ -355,13 +360,17 @@ void TFrmGrid_Master::TmPesquisaTimer(TComponent*) {
     Locate(FSearchTerm);
 }
 
-void TFrmGrid_Master::DpPesq1Change(TComponent*) { Locate({}); }
+void TFrmGrid_Master::DpPesq1Change(TComponent*) {
+    Locate({});
+}
 
 void TFrmGrid_Master::CbPesquisaChange(TComponent*) {
     if (CbPesquisa->ItemIndex() >= 0) Locate((*ComboValues)[CbPesquisa->ItemIndex()]);
 }
 
-void TFrmGrid_Master::ImgCancelPesqClick(TComponent*) { ClearSearch(); }
+void TFrmGrid_Master::ImgCancelPesqClick(TComponent*) {
+    ClearSearch();
+}
 
 void TFrmGrid_Master::DBGrdEnter(TComponent*) {
     FinishSearch();

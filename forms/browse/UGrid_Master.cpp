@@ -123,8 +123,8 @@ void TFrmGrid_Master::FilterData() {
     const TSearchCriterion criterion = MakeCriterion(input);
 
     const std::vector<TField*> fields(criterion.Range ? 2 : 1, field);
-    Filtro(MainDataSet(), fields, criterion.Values, SearchOrder(FOrderBy, GetFieldName(field)), FWhere, Params,
-           ParamValues, FKeyType, FShowDeleted);
+    Filtro(MainDataSet(), fields, criterion.Values, SearchOrder(FOrderBy, GetFieldName(field)), FWhere,
+           Params, ParamValues, FKeyType, FShowDeleted);
 }
 
 void TFrmGrid_Master::LocateInList(const UnicodeString& Value) {
@@ -194,14 +194,16 @@ void TFrmGrid_Master::FixColsWidths() {
     }
 }
 
-// Numbers stand to the right, and money and other decimals show their places although the host named no format.
+// Numbers stand to the right, and money and other decimals show their places although the host named no
+// format.
 void TFrmGrid_Master::AdjustNumericColumns() {
     for (int i = 0; i < DBGrd->Columns().Count(); ++i) {
         auto* field = dynamic_cast<TNumericField*>(DBGrd->Columns()[i]->Field());
         if (!field) continue;
         DBGrd->Columns()[i]->SetAlignment(taRightJustify);
         const bool whole = dynamic_cast<TIntegerField*>(field) || dynamic_cast<TLargeintField*>(field);
-        if (!whole && field->DisplayFormat().isEmpty()) field->SetDisplayFormat(Module->DisplayFormat(field->Tag()));
+        if (!whole && field->DisplayFormat().isEmpty())
+            field->SetDisplayFormat(Module->DisplayFormat(field->Tag()));
     }
 }
 
@@ -213,7 +215,9 @@ void TFrmGrid_Master::WndProc(TMessage& Message) {
     }
 }
 
-void TFrmGrid_Master::CmdSetMovedOff() { FColumnMoved = false; }
+void TFrmGrid_Master::CmdSetMovedOff() {
+    FColumnMoved = false;
+}
 
 void TFrmGrid_Master::ScrollMouse(TMessage& Message) {
     Message.Result = 1;  // the grid need not scroll by itself

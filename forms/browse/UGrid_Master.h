@@ -1,10 +1,10 @@
-// The grid master: common ancestor of every screen that shows records in a grid (the view master and the lookup
-// search form derive from it).
+// The grid master: common ancestor of every screen that shows records in a grid (the view master and the
+// lookup search form derive from it).
 //
-// It binds a grid to the form's main data source, keeps one column as the ordering and search column (marked with
-// "»" in its title) and offers an incremental search over it. In vtFilter mode each search re-queries the main
-// dataset through the filter builder, 200 ms after the last key; in vtList mode the dataset is opened once and each
-// key moves to the first record that begins with what was typed.
+// It binds a grid to the form's main data source, keeps one column as the ordering and search column (marked
+// with "»" in its title) and offers an incremental search over it. In vtFilter mode each search re-queries
+// the main dataset through the filter builder, 200 ms after the last key; in vtList mode the dataset is
+// opened once and each key moves to the first record that begins with what was typed.
 //
 // A derived form makes its columns and its dataset in CreateControls:
 //
@@ -30,11 +30,11 @@
 class TFrmGrid_Master : public TFrmBase {
   public:
     // The form takes the place of its opener when HideParent is true; its window state is always remembered.
-    TFrmGrid_Master(TComponent* AOwner, TModuleInstance* AModule, bool HideParent, TVizsualizationType AVisType,
-                    TKeyType AKeyType);
+    TFrmGrid_Master(TComponent* AOwner, TModuleInstance* AModule, bool HideParent,
+                    TVizsualizationType AVisType, TKeyType AKeyType);
 
-    // Runs the search: re-queries (vtFilter, where the value comes from the search box) or moves to the first record
-    // that begins with Value, whatever its case (vtList; an empty Value goes to the first record).
+    // Runs the search: re-queries (vtFilter, where the value comes from the search box) or moves to the first
+    // record that begins with Value, whatever its case (vtList; an empty Value goes to the first record).
     void Locate(const UnicodeString& Value);
 
     // Runs the last search again.
@@ -46,8 +46,9 @@ class TFrmGrid_Master : public TFrmBase {
     // Puts the search box back to its hint "Pesquisa (F3)".
     void ClearSearch();
 
-    // Makes a column the ordering and search column. Raises when the index is out of range; a column whose field has
-    // the origin "#0" cannot be searched and aborts silently. A date column is searched at once (the current month).
+    // Makes a column the ordering and search column. Raises when the index is out of range; a column whose
+    // field has the origin "#0" cannot be searched and aborts silently. A date column is searched at once
+    // (the current month).
     void SetOrderFieldIndex(int Index);
 
     // Takes the column of the dataset's Tag (the index of a field), or the first one.
@@ -56,8 +57,8 @@ class TFrmGrid_Master : public TFrmBase {
     // The column's caption, without the marker of the ordering column.
     UnicodeString GetColumnTitle(int Index) const;
 
-    // Brings the count label up to date: at once when all rows are here, else one step after the next paint; until
-    // then the label is blank.
+    // Brings the count label up to date: at once when all rows are here, else one step after the next paint;
+    // until then the label is blank.
     void GetRecordCount();
 
     // A named parameter of the main query, set at every search.
@@ -66,8 +67,8 @@ class TFrmGrid_Master : public TFrmBase {
     // Names a key field by hand. Raises when the dataset's own fields carry the key flag.
     void AddPrimaryKeyField(const UnicodeString& FieldName);
 
-    // Collects the key fields into PrimaryKey; returns how many. Raises "Nenhuma chave primaria foi definida." when
-    // there is none.
+    // Collects the key fields into PrimaryKey; returns how many. Raises "Nenhuma chave primaria foi
+    // definida." when there is none.
     int GetPrimaryKey();
 
     // Widens every column to its title.

@@ -15,7 +15,9 @@ namespace {
 constexpr int kToolBarHeight = 62;
 constexpr int kWindowBarHeight = 34;  // both together: 96
 
-UnicodeString PlainCaption(UnicodeString caption) { return caption.remove(u'&').remove(u"..."_s); }
+UnicodeString PlainCaption(UnicodeString caption) {
+    return caption.remove(u'&').remove(u"..."_s);
+}
 
 }  // namespace
 
@@ -65,7 +67,9 @@ void TFrmMain::AddModule(TMenuItem* menu, const UnicodeString& caption, const Un
     button->SetParent(FToolBar);
 }
 
-UnicodeString TFrmMain::HostResources() const { return u":/fichario"_s; }
+UnicodeString TFrmMain::HostResources() const {
+    return u":/fichario"_s;
+}
 
 void TFrmMain::ExecuteProcEx(TForm* waitScreen, const std::function<void()>& procedure, TFrmBase*) {
     struct ClosesWaitScreen {
@@ -83,7 +87,8 @@ void TFrmMain::ExecuteProcEx(TForm* waitScreen, const std::function<void()>& pro
 void TFrmMain::FormCreated(TFrmBase* form) {
     FForms.push_back(form);
     form->FBtn = NewWindowButton(form);
-    form->FMenuItem = FWindows->AddNew(form->Caption(), [form](TComponent* sender) { form->MenuClick(sender); });
+    form->FMenuItem =
+        FWindows->AddNew(form->Caption(), [form](TComponent* sender) { form->MenuClick(sender); });
     form->FMenuItem->SetRadioItem(true);
     FWindows->SetVisible(true);
 }

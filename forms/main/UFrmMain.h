@@ -1,13 +1,14 @@
-// The ready main window: a menu bar, a tool bar for the host's modules, the client area in which the forms live,
-// and a window bar with a button for each open form. It is also the host's side of the module framework.
+// The ready main window: a menu bar, a tool bar for the host's modules, the client area in which the forms
+// live, and a window bar with a button for each open form. It is also the host's side of the module
+// framework.
 //
 //     auto* main = NewForm<TFrmMain>(Application, u"Comercial"_s);
 //     TMenuItem* cadastros = main->MainMenu()->Items()->AddNew(u"&Cadastros"_s);
 //     main->AddModule(cadastros, u"&Clientes..."_s, u"ICO24_CLIENTES"_s, [&] { NewForm<TFrmClientes>(…); });
 //
-// Tool bar and window bar take 96 pixels of the client height together, so that a maximised form just fills the
-// client area. The "Janelas" menu lists the open forms. The main window counts itself among the active modules, so
-// the first form stands at 0, 0.
+// Tool bar and window bar take 96 pixels of the client height together, so that a maximised form just fills
+// the client area. The "Janelas" menu lists the open forms. The main window counts itself among the active
+// modules, so the first form stands at 0, 0.
 #pragma once
 
 #include <vector>
@@ -25,7 +26,8 @@ class TFrmMain : public TForm, public TModuleInterface {
 
     TMainMenu* MainMenu() const { return FMenu; }
 
-    // Adds an item to `menu` and a button to the tool bar that both run `open`. `icon` names a resource of the host.
+    // Adds an item to `menu` and a button to the tool bar that both run `open`. `icon` names a resource of
+    // the host.
     void AddModule(TMenuItem* menu, const UnicodeString& caption, const UnicodeString& icon,
                    const std::function<void()>& open);
 

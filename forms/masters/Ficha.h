@@ -1,5 +1,5 @@
-// Lays labelled data-aware controls on a page, left to right and row by row, so that captions stand above their
-// edits on one baseline and every edit has the same height.
+// Lays labelled data-aware controls on a page, left to right and row by row, so that captions stand above
+// their edits on one baseline and every edit has the same height.
 //
 //     TFicha ficha(this, page, MainDS);
 //     ficha.Edit(u"NM_CLI"_s, 380);              // caption: the field's DisplayLabel
@@ -7,7 +7,8 @@
 //     ficha.NewRow();
 //     ficha.Combo(u"NM_EST"_s, {u"SP"_s, u"RJ"_s}, 70);
 //
-// Controls are made in the order of the calls, which is the order of the keyboard and of the required-field check.
+// Controls are made in the order of the calls, which is the order of the keyboard and of the required-field
+// check.
 #pragma once
 
 #include "platform/rtl/Types.h"
@@ -21,10 +22,12 @@ class TDBEdit;
 
 class TFicha {
   public:
-    // `owner` is the form that will own the controls, `page` their parent; `source` must have its dataset already.
+    // `owner` is the form that will own the controls, `page` their parent; `source` must have its dataset
+    // already.
     TFicha(TComponent* owner, TControl* page, TDataSource* source);
 
-    // A labelled edit of `width` pixels on `fieldName`. A field that does not exist raises the dataset's error.
+    // A labelled edit of `width` pixels on `fieldName`. A field that does not exist raises the dataset's
+    // error.
     TDBEdit* Edit(const UnicodeString& fieldName, int width);
 
     // The same, of which the user can only read and copy.

@@ -39,8 +39,8 @@ class TDataSet : public TComponent {
     // Runs the statement and brings its first rows; the first record becomes current. Nothing when already
     // active. EDatabaseError, EFDError; the dataset then stays closed.
     void Open();
-    // Drops a pending edit and the rows. Fields stay. Nothing when not active. A dataset that is freed closes without
-    // calling its events.
+    // Drops a pending edit and the rows. Fields stay. Nothing when not active. A dataset that is freed closes
+    // without calling its events.
     void Close();
     // Posts or cancels a pending edit (CheckBrowseMode), runs the statement again and returns to the record
     // with the same key, or, when that is gone, to the same place.

@@ -1,5 +1,5 @@
-// The journey of a clerk, by key events only, checked over a second connection: find a customer, change it, include
-// one, soft-delete it, find it again among the deleted.
+// The journey of a clerk, by key events only, checked over a second connection: find a customer, change it,
+// include one, soft-delete it, find it again among the deleted.
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
 
@@ -73,7 +73,8 @@ void Jornada::OpenClientes() {
     ASSERT_TRUE(Until([&] { return Clientes()->RecordCount() > 0; }));
 }
 
-// Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the grid.
+// Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the
+// grid.
 void Jornada::IncludeCustomer() {
     Press(VK_INSERT);
     ASSERT_TRUE(Ficha());

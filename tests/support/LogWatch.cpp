@@ -20,7 +20,8 @@ bool TakeExpected(const QString& text) {
 }
 
 bool IsTolerated(const QString& text) {
-    return std::any_of(tolerated.begin(), tolerated.end(), [&](const QString& part) { return text.contains(part); });
+    return std::any_of(tolerated.begin(), tolerated.end(),
+                       [&](const QString& part) { return text.contains(part); });
 }
 
 void Hear(QtMsgType type, const QMessageLogContext&, const QString& text) {
@@ -35,8 +36,10 @@ class Watch : public ::testing::EmptyTestEventListener {
         unexpected.clear();
     }
     void OnTestEnd(const ::testing::TestInfo&) override {
-        for (const QString& text : unexpected) ADD_FAILURE() << "unannounced in the log: " << qPrintable(text);
-        for (const QString& text : expected) ADD_FAILURE() << "announced but never logged: " << qPrintable(text);
+        for (const QString& text : unexpected)
+            ADD_FAILURE() << "unannounced in the log: " << qPrintable(text);
+        for (const QString& text : expected)
+            ADD_FAILURE() << "announced but never logged: " << qPrintable(text);
     }
 };
 
@@ -47,6 +50,10 @@ void LogWatch::Install() {
     ::testing::UnitTest::GetInstance()->listeners().Append(new Watch);
 }
 
-void LogWatch::Expect(const QString& part) { expected << part; }
+void LogWatch::Expect(const QString& part) {
+    expected << part;
+}
 
-void LogWatch::Tolerate(const QString& part) { tolerated << part; }
+void LogWatch::Tolerate(const QString& part) {
+    tolerated << part;
+}

@@ -1,4 +1,5 @@
-// The main of the tests that need no screen: one core application, Brazilian formats, and the watch on the log.
+// The main of the tests that need no screen: one core application, Brazilian formats, and the watch on the
+// log.
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 #include "tests/support/LogWatch.h"

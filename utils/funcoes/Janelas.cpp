@@ -4,9 +4,13 @@
 
 #include "platform/ui/Control.h"
 
-void LockWindowDraw(TControl* window) { window->Widget()->setUpdatesEnabled(false); }
+void LockWindowDraw(TControl* window) {
+    window->Widget()->setUpdatesEnabled(false);
+}
 
-void UnlockWindowDraw(TControl* window) { window->Widget()->setUpdatesEnabled(true); }
+void UnlockWindowDraw(TControl* window) {
+    window->Widget()->setUpdatesEnabled(true);
+}
 
 TDrawLock::TDrawLock(TControl* window) : FWindow(window) {
     if (FWindow) LockWindowDraw(FWindow);

@@ -16,13 +16,13 @@ Firebird::IMaster& ClientLibrary();
 // Keeps what the process does at SIGTERM and SIGINT while it stands: the library takes both over at its first
 // attach, and then the process would no longer end by them.
 class SignalKeeper {
-public:
+  public:
     SignalKeeper();
     ~SignalKeeper();
     SignalKeeper(const SignalKeeper&) = delete;
     SignalKeeper& operator=(const SignalKeeper&) = delete;
 
-private:
+  private:
     struct Dispositions;
     std::unique_ptr<Dispositions> FBefore;
 };

@@ -148,14 +148,19 @@ TEST_F(FrmBaseHosted, MaximisesWithinTheClientAreaAndTogglesByItsOwnMeasure) {
     form->SetHeight(Main->ClientHeight() - 99);
     form->Perform(WM_SYSCOMMAND, SC_MAXIMIZE);
     EXPECT_FALSE(form->Maximized());
-    EXPECT_EQ(form->Height(), Main->ClientHeight() - 100);  // the second command had overwritten what was saved
+    EXPECT_EQ(form->Height(),
+              Main->ClientHeight() - 100);  // the second command had overwritten what was saved
 }
 
 TEST_F(FrmBaseHosted, SizingAndMovingLeaveTheMaximisedState) {
-    const struct { const char* Case; int Message; intptr_t Command; bool Restores; } cases[] = {
-        {"size command", WM_SYSCOMMAND, SC_SIZE + 8, false},
-        {"move command", WM_SYSCOMMAND, SC_MOVE + 2, true},
-        {"size or move begins", WM_ENTERSIZEMOVE, 0, true}};
+    const struct {
+        const char* Case;
+        int Message;
+        intptr_t Command;
+        bool Restores;
+    } cases[] = {{"size command", WM_SYSCOMMAND, SC_SIZE + 8, false},
+                 {"move command", WM_SYSCOMMAND, SC_MOVE + 2, true},
+                 {"size or move begins", WM_ENTERSIZEMOVE, 0, true}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Case);
         TFrmTeste* form = Open();
@@ -197,8 +202,9 @@ TEST_F(FrmBaseHosted, RemembersItsGeometry) {
 }
 
 TEST_F(FrmBaseHosted, OpensOverAStateFileThatIsGarbage) {
-    const QByteArray contents[] = {QByteArray("\0\xFF[\x01=\n]]", 8), "[TFrmTeste]\nHeight=abc\nWidth=99999999\nMaximized=",
-                                   QByteArray(100000, '[')};
+    const QByteArray contents[] = {
+        QByteArray("\0\xFF[\x01=\n]]", 8),
+        "[TFrmTeste]\nHeight=abc\nWidth=99999999\nMaximized=", QByteArray(100000, '[')};
     EnsureFolder(Folder.path() + u"/Temp"_s);
     for (const QByteArray& content : contents) {
         SCOPED_TRACE(content.left(20).toStdString());
@@ -231,7 +237,8 @@ TEST_F(FrmBaseHosted, EachFormHasAButtonAndAMenuItem) {
     EXPECT_TRUE(Until([&] { return second->FBtn->Down() && !first->FBtn->Down(); }));
     EXPECT_EQ(first->FBtn->Caption(), u"Teste"_s);
     Click(first->FBtn);
-    EXPECT_TRUE(Until([&] { return Application->ActiveForm() == first && first->FBtn->Down() && !second->FBtn->Down(); }));
+    EXPECT_TRUE(Until(
+        [&] { return Application->ActiveForm() == first && first->FBtn->Down() && !second->FBtn->Down(); }));
     second->FMenuItem->Click();
     EXPECT_TRUE(Until([&] { return second->Active() && second->FMenuItem->Checked(); }));
     first->Free();

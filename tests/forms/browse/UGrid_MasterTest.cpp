@@ -15,11 +15,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const char* const kTable =
-    "CREATE TABLE PESSOA (ID INTEGER NOT NULL PRIMARY KEY, NM VARCHAR(40) COLLATE PT_BR, VL NUMERIC(15,2), DT DATE, "
+    "CREATE TABLE PESSOA (ID INTEGER NOT NULL PRIMARY KEY, NM VARCHAR(40) COLLATE PT_BR, VL NUMERIC(15,2), "
+    "DT DATE, "
     "ATIVO CHAR(1), TF_DEL CHAR(1))";
-const char* const kRows[] = {"1, 'Ana', 10.50, '2024-03-01', 'S', 'N'",     "2, 'João', 20, '2024-03-31', 'N', NULL",
-                             "3, 'Joana', 30.25, '2024-04-01', 'S', 'N'",   "4, 'O''Brien', 40, '2023-03-15', 'S', 'N'",
-                             "5, 'Jorge', 50, '2024-03-10', 'S', 'S'",      "6, 'Maria', NULL, NULL, 'N', 'N'"};
+const char* const kRows[] = {
+    "1, 'Ana', 10.50, '2024-03-01', 'S', 'N'",   "2, 'João', 20, '2024-03-31', 'N', NULL",
+    "3, 'Joana', 30.25, '2024-04-01', 'S', 'N'", "4, 'O''Brien', 40, '2023-03-15', 'S', 'N'",
+    "5, 'Jorge', 50, '2024-03-10', 'S', 'S'",    "6, 'Maria', NULL, NULL, 'N', 'N'"};
 
 struct TOptions {
     TVizsualizationType VisType = vtFilter;
@@ -48,7 +50,8 @@ class TFrmTeste : public TFrmGrid_Master {
         LbRegCount = NewControl<TLabel>(this, this, u"LbRegCount"_s, QRect(8, 8, 120, 18));
         Query = new TFDQuery(this);
         Query->SetConnection(FConnection);
-        Query->SQL()->SetText(FOptions.VisType == vtList ? u"SELECT * FROM PESSOA ORDER BY NM"_s : u"SELECT * FROM PESSOA"_s);
+        Query->SQL()->SetText(FOptions.VisType == vtList ? u"SELECT * FROM PESSOA ORDER BY NM"_s
+                                                         : u"SELECT * FROM PESSOA"_s);
         Query->SetTag(FOptions.OrderTag);
         Query->DescribeFields();
         Query->AfterOpen = [this](TDataSet*) { ++Opened; };
@@ -70,8 +73,9 @@ class GridMaster : public testing::Test {
   protected:
     void SetUp() override {
         SetProgramFolder(Folder.path());
-        Connection->Params()->SetText(u"Protocol=Local\nUser_Name=SYSDBA\nCharacterSet=ISO8859_1\nForcedWrites=False\nDatabase="_s +
-                                      Folder.filePath(u"t.fdb"_s));
+        Connection->Params()->SetText(
+            u"Protocol=Local\nUser_Name=SYSDBA\nCharacterSet=ISO8859_1\nForcedWrites=False\nDatabase="_s +
+            Folder.filePath(u"t.fdb"_s));
         Connection->CreateDatabase();
         Connection->ExecSQL(QString::fromUtf8(kTable));
         for (const char* row : kRows) {
@@ -174,10 +178,12 @@ TEST_F(GridMaster, EscapeClearsTheSearchAndThenCloses) {
 
 TEST_F(GridMaster, SurvivesHostileSearchTexts) {
     TFrmTeste* form = Open();
-    const UnicodeString texts[] = {u"o'"_s, u"'; DROP TABLE PESSOA; --"_s, u"%"_s, u"_"_s, u"*ana"_s, u"ÇÃ€"_s,
-                                   u"\\\t\r\n"_s, UnicodeString(10000, u'x')};
-    const char16_t* found[] = {u"O'Brien", u"", u"Ana,João,Joana,Maria,O'Brien", u"Ana,João,Joana,Maria,O'Brien",
-                               u"Ana,Joana", u"", u"", u""};
+    const UnicodeString texts[] = {
+        u"o'"_s,       u"'; DROP TABLE PESSOA; --"_s, u"%"_s, u"_"_s, u"*ana"_s, u"ÇÃ€"_s,
+        u"\\\t\r\n"_s, UnicodeString(10000, u'x')};
+    const char16_t* found[] = {
+        u"O'Brien", u"", u"Ana,João,Joana,Maria,O'Brien", u"Ana,João,Joana,Maria,O'Brien", u"Ana,Joana", u"",
+        u"",        u""};
     for (size_t i = 0; i < std::size(texts); ++i) {
         SCOPED_TRACE(texts[i].left(30).toStdString());
         form->EdtPesquisa->SetFocus();
@@ -193,9 +199,13 @@ TEST_F(GridMaster, SurvivesHostileSearchTexts) {
 }
 
 TEST_F(GridMaster, SearchesNumbersSingleAndInRanges) {
-    const struct { const char* Case; const char16_t *From, *To, *Found; } cases[] = {
-        {"both boxes empty", u"", u"", u"Ana,João,Joana,O'Brien"}, {"single", u"20", u"", u"João"},
-        {"range", u"10,5", u"30,25", u"Ana,João,Joana"},           {"nothing", u"1", u"2", u""}};
+    const struct {
+        const char* Case;
+        const char16_t *From, *To, *Found;
+    } cases[] = {{"both boxes empty", u"", u"", u"Ana,João,Joana,O'Brien"},
+                 {"single", u"20", u"", u"João"},
+                 {"range", u"10,5", u"30,25", u"Ana,João,Joana"},
+                 {"nothing", u"1", u"2", u""}};
     TFrmTeste* form = Open();
     form->SetOrderFieldIndex(2);
     for (const auto& c : cases) {

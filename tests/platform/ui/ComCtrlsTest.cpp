@@ -33,9 +33,8 @@ TEST_F(ComCtrlsTest, PickerFiresOnWholeValidDatesOnly) {
         int Fired;
         TDateParts Date;
     } cases[] = {
-        {"3", 0, {2024, 1, 15}},           {"31", 1, {2024, 1, 31}},
-        {"07/03", 2, {2024, 3, 7}},        {"07/03/2025", 3, {2025, 3, 7}},
-        {"07032025", 3, {2025, 3, 7}},     {"15/01/20", 0, {2024, 1, 15}},
+        {"3", 0, {2024, 1, 15}},         {"31", 1, {2024, 1, 31}},      {"07/03", 2, {2024, 3, 7}},
+        {"07/03/2025", 3, {2025, 3, 7}}, {"07032025", 3, {2025, 3, 7}}, {"15/01/20", 0, {2024, 1, 15}},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.Keys);
@@ -86,7 +85,9 @@ TEST_F(ComCtrlsTest, TabStripTurnsRoundAndTellsOfEveryChange) {
     auto* edit = NewControl<TEdit>(Form, Form, u"Edit"_s, QRect(0, 40, 50, 25));
     edit->SetFocus();
     UnicodeString told;
-    tabs->OnTabSelected = [&](TIceTabSet*, TIceTab* tab) { told += tab->Caption() + QString::number(tab->Tag()); };
+    tabs->OnTabSelected = [&](TIceTabSet*, TIceTab* tab) {
+        told += tab->Caption() + QString::number(tab->Tag());
+    };
     tabs->SelectNext(true);
     tabs->Add(u"A"_s, 0);
     tabs->Add(u"B"_s, 2);

@@ -91,7 +91,8 @@ TEST_F(DBGridTest, KeysMoveTheDatasetAndTheColumn) {
         EXPECT_EQ(Query->RecNo(), each.Record);
         EXPECT_EQ(Grid->SelectedIndex(), each.Column);
         const TGridGeometry where = Grid->Geometry();
-        EXPECT_TRUE(View()->rect().contains(where.Cell(Grid->CurrentRow(), 0))) << "the current row is in sight";
+        EXPECT_TRUE(View()->rect().contains(where.Cell(Grid->CurrentRow(), 0)))
+            << "the current row is in sight";
     }
 }
 
@@ -205,7 +206,8 @@ TEST_F(DBGridTest, LongTextsShowWholeInATip) {
     Connection->ExecSQL(u"UPDATE CLIENTE SET NM = 'Um nome comprido demais para a coluna' WHERE ID = 2"_s);
     Query->Open();
     const TGridGeometry where = Grid->Geometry();
-    for (const auto& [row, tip] : {std::pair{1, u"Um nome comprido demais para a coluna"_s}, std::pair{0, u""_s}}) {
+    for (const auto& [row, tip] :
+         {std::pair{1, u"Um nome comprido demais para a coluna"_s}, std::pair{0, u""_s}}) {
         const QPoint at = where.Cell(row, 1).center();
         QHelpEvent event(QEvent::ToolTip, at, View()->mapToGlobal(at));
         QApplication::sendEvent(View(), &event);

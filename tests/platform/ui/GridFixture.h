@@ -71,7 +71,8 @@ class GridFixture : public ::testing::Test {
     }
     // What the database holds, whatever the datasets show.
     UnicodeString Stored(const UnicodeString& column, int id) {
-        return Connection->ExecSQLScalar(u"SELECT %1 FROM CLIENTE WHERE ID = %2"_s.arg(column).arg(id)).ToText();
+        return Connection->ExecSQLScalar(u"SELECT %1 FROM CLIENTE WHERE ID = %2"_s.arg(column).arg(id))
+            .ToText();
     }
 
     TForm* Form = nullptr;
@@ -82,8 +83,9 @@ class GridFixture : public ::testing::Test {
   private:
     void OpenDatabase() {
         Connection = new TFDConnection(Form);
-        Connection->Params()->SetText(u"DriverID=FB\nProtocol=Local\nUser_Name=SYSDBA\nForcedWrites=False\nDatabase="_s +
-                                      Folder.filePath(u"grid.fdb"_s));
+        Connection->Params()->SetText(
+            u"DriverID=FB\nProtocol=Local\nUser_Name=SYSDBA\nForcedWrites=False\nDatabase="_s +
+            Folder.filePath(u"grid.fdb"_s));
         Connection->CreateDatabase();
         Connection->ExecSQL(
             u"CREATE TABLE CLIENTE (ID INTEGER NOT NULL PRIMARY KEY, NM VARCHAR(40), VL NUMERIC(15,2), "
