@@ -19,7 +19,7 @@ UnicodeString ExecutableFolder() {
 
 UnicodeString UserDataRoot() {
     const QString configured = qEnvironmentVariable("XDG_DATA_HOME");
-    // The specification has relative paths ignored.
+    // A relative path in the variable is to be ignored (XDG).
     return QDir::isAbsolutePath(configured) ? configured : QDir::homePath() + QStringLiteral("/.local/share");
 }
 
