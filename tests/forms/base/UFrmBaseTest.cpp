@@ -33,6 +33,7 @@ class FrmBase : public testing::Test {
     void SetUp() override {
         SetProgramFolder(Folder.path());
         Main = NewForm<TFrmMain>(Application, u"Teste"_s);
+        Module = std::make_unique<TModuleInstance>(Main, TModuleInfo{u"TESTE"_s, u"Teste"_s, {}});
         Main->SetBounds(0, 0, 1000, 760);
         Settle();
     }
@@ -43,26 +44,13 @@ class FrmBase : public testing::Test {
         SetProgramFolder({});
     }
     TFrmTeste* Open(TComponent* owner = Application, bool hideParent = false) {
-        return NewForm<TFrmTeste>(owner, &Module, hideParent);
+        return NewForm<TFrmTeste>(owner, Module.get(), hideParent);
     }
     UnicodeString StateFile() const { return Folder.path() + u"/Temp/0ws.dat"_s; }
 
     QTemporaryDir Folder;
     TFrmMain* Main = nullptr;
-    TModuleInstance Module{nullptr, {u"TESTE"_s, u"Teste"_s, {}}};
-};
-
-// The module must know its host, which is made in SetUp.
-class FrmBaseHosted : public FrmBase {
-  protected:
-    void SetUp() override {
-        FrmBase::SetUp();
-        Hosted = std::make_unique<TModuleInstance>(Main, TModuleInfo{u"TESTE"_s, u"Teste"_s, {}});
-    }
-    TFrmTeste* Open(TComponent* owner = Application, bool hideParent = false) {
-        return NewForm<TFrmTeste>(owner, Hosted.get(), hideParent);
-    }
-    std::unique_ptr<TModuleInstance> Hosted;
+    std::unique_ptr<TModuleInstance> Module;  // knows its host, which is made for each test
 };
 
 TEST_F(FrmBase, NeedsAModuleAndGivesTheOpenerBack) {
@@ -87,7 +75,7 @@ TEST_F(FrmBase, AFailingBirthLeavesTheOpenerAsItWas) {
     EXPECT_EQ(Application->ActiveForm(), opener);
 }
 
-TEST_F(FrmBaseHosted, AChildIsCentredOverItsDisabledOpener) {
+TEST_F(FrmBase, AChildIsCentredOverItsDisabledOpener) {
     TFrmTeste* opener = Open();
     opener->SetBounds(100, 80, 600, 500);
     TFrmTeste* child = Open(opener);
@@ -104,7 +92,7 @@ TEST_F(FrmBaseHosted, AChildIsCentredOverItsDisabledOpener) {
     EXPECT_EQ(Application->ActiveForm(), opener);
 }
 
-TEST_F(FrmBaseHosted, AChildInTheOpenersPlaceMovesItAlong) {
+TEST_F(FrmBase, AChildInTheOpenersPlaceMovesItAlong) {
     TFrmTeste* opener = Open();
     opener->SetBounds(40, 30, 500, 400);
     TFrmTeste* child = Open(opener, true);
@@ -118,14 +106,14 @@ TEST_F(FrmBaseHosted, AChildInTheOpenersPlaceMovesItAlong) {
     EXPECT_EQ(opener->Top(), 70);
 }
 
-TEST_F(FrmBaseHosted, TakesItsChildAlong) {
+TEST_F(FrmBase, TakesItsChildAlong) {
     TFrmTeste* opener = Open();
     Open(Open(opener));
     opener->Free();
     EXPECT_TRUE(Main->OpenForms().empty());
 }
 
-TEST_F(FrmBaseHosted, NewFormsAreCascadedByFive) {
+TEST_F(FrmBase, NewFormsAreCascadedByFive) {
     const int step = TForm::CaptionHeight() + 5;
     for (const int k : {0, 1, 2, 3, 4, 0, 1}) {
         SCOPED_TRACE(k);
@@ -135,7 +123,7 @@ TEST_F(FrmBaseHosted, NewFormsAreCascadedByFive) {
     }
 }
 
-TEST_F(FrmBaseHosted, MaximisesWithinTheClientAreaAndTogglesByItsOwnMeasure) {
+TEST_F(FrmBase, MaximisesWithinTheClientAreaAndTogglesByItsOwnMeasure) {
     TFrmTeste* form = Open();
     form->SetBounds(50, 40, 500, 400);
     form->Perform(WM_SYSCOMMAND, SC_MAXIMIZE);
@@ -152,7 +140,7 @@ TEST_F(FrmBaseHosted, MaximisesWithinTheClientAreaAndTogglesByItsOwnMeasure) {
               Main->ClientHeight() - 100);  // the second command had overwritten what was saved
 }
 
-TEST_F(FrmBaseHosted, SizingAndMovingLeaveTheMaximisedState) {
+TEST_F(FrmBase, SizingAndMovingLeaveTheMaximisedState) {
     const struct {
         const char* Case;
         int Message;
@@ -173,7 +161,7 @@ TEST_F(FrmBaseHosted, SizingAndMovingLeaveTheMaximisedState) {
     }
 }
 
-TEST_F(FrmBaseHosted, MinimisesToTheWindowBar) {
+TEST_F(FrmBase, MinimisesToTheWindowBar) {
     TFrmTeste* form = Open();
     form->Perform(WM_SYSCOMMAND, SC_MINIMIZE);
     EXPECT_FALSE(form->Showing());
@@ -182,7 +170,7 @@ TEST_F(FrmBaseHosted, MinimisesToTheWindowBar) {
     EXPECT_EQ(form->WindowState(), wsNormal);
 }
 
-TEST_F(FrmBaseHosted, RemembersItsGeometry) {
+TEST_F(FrmBase, RemembersItsGeometry) {
     TFrmTeste* form = Open();
     form->SetBounds(10, 10, 620, 480);
     form->Perform(WM_SYSCOMMAND, SC_MAXIMIZE);
@@ -201,7 +189,7 @@ TEST_F(FrmBaseHosted, RemembersItsGeometry) {
     EXPECT_EQ(form->GetIntWindowProp(u"Width"_s, -1), -1);
 }
 
-TEST_F(FrmBaseHosted, OpensOverAStateFileThatIsGarbage) {
+TEST_F(FrmBase, OpensOverAStateFileThatIsGarbage) {
     const QByteArray contents[] = {
         QByteArray("\0\xFF[\x01=\n]]", 8),
         "[TFrmTeste]\nHeight=abc\nWidth=99999999\nMaximized=", QByteArray(100000, '[')};
@@ -216,7 +204,7 @@ TEST_F(FrmBaseHosted, OpensOverAStateFileThatIsGarbage) {
     }
 }
 
-TEST_F(FrmBaseHosted, AStateThatCannotBeWrittenIsReportedOnceAndStopsNothing) {
+TEST_F(FrmBase, AStateThatCannotBeWrittenIsReportedOnceAndStopsNothing) {
     SetFileFailure([](const UnicodeString&, TFileOperation operation) {
         return operation == foWrite ? std::optional<int>(ENOSPC) : std::nullopt;
     });
@@ -231,7 +219,7 @@ TEST_F(FrmBaseHosted, AStateThatCannotBeWrittenIsReportedOnceAndStopsNothing) {
     EXPECT_TRUE(told[0].contains(u"disco"_s)) << told[0].toStdString();
 }
 
-TEST_F(FrmBaseHosted, EachFormHasAButtonAndAMenuItem) {
+TEST_F(FrmBase, EachFormHasAButtonAndAMenuItem) {
     TFrmTeste* first = Open();
     TFrmTeste* second = Open();
     EXPECT_TRUE(Until([&] { return second->FBtn->Down() && !first->FBtn->Down(); }));
@@ -245,7 +233,7 @@ TEST_F(FrmBaseHosted, EachFormHasAButtonAndAMenuItem) {
     EXPECT_EQ(Main->OpenForms().size(), 1u);
 }
 
-TEST_F(FrmBaseHosted, FollowsTheMouseOnItsCaption) {
+TEST_F(FrmBase, FollowsTheMouseOnItsCaption) {
     TFrmTeste* form = Open();
     form->SetBounds(100, 100, 500, 400);
     Settle();
