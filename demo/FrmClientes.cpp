@@ -1,6 +1,7 @@
 #include "demo/FrmClientes.h"
 
 #include "demo/dados/Municipios.h"
+#include "demo/FrmPesqMunicipio.h"
 #include "forms/masters/Ficha.h"
 #include "platform/rtl/DateTime.h"
 
@@ -122,11 +123,25 @@ void TFrmCadCliente::CreateMainPage() {
     ficha.Edit(u"FANTASIA"_s, 260);
     ficha.Edit(u"NR_CPF"_s, 150);
     ficha.NewRow();
-    ficha.Edit(u"CIDADE"_s, 260);
+    ficha.Lookup(ficha.Edit(u"CIDADE"_s, 260), [this] { FindTown(); });
     ficha.Combo(u"NM_EST"_s, SiglasDosEstados(), 80);
     ficha.Edit(u"NR_INS_EST"_s, 150);
     ficha.NewRow();
     ficha.Edit(u"E_MAIL"_s, 420);
+}
+
+// Where the record cannot be changed there is nothing to look up.
+void TFrmCadCliente::FindTown() {
+    TDataSet* cliente = MainDS->DataSet();
+    if (cliente->State() != dsEdit && cliente->State() != dsInsert) return;
+    cliente->UpdateRecord();
+    FTown = {};
+    FTown.OnDelivered = [cliente](const TResearchResult& town) {
+        cliente->FieldByName(u"CIDADE"_s)->SetValue(town.Values[0]);
+        cliente->FieldByName(u"NM_EST"_s)->SetValue(town.Values[1]);
+    };
+    FTown.Form = NewForm<TFrmPesqMunicipio>(this, Module, &FTown,
+                                            cliente->FieldByName(u"CIDADE"_s)->AsString(), FData);
 }
 
 void TFrmCadCliente::CreateTradePage() {

@@ -33,6 +33,8 @@ class TFrmCadCliente : public TFrmCad_Master {
     void CreateQuery();
     void CreateMainPage();
     void CreateTradePage();
+    void FindTown();
 
     TDM_Comercial* FData;
+    TResearchResult FTown;
 };

@@ -4,11 +4,15 @@
 
 #include "demo/FrmClientes.h"
 #include "demo/FrmPrincipal.h"
+#include "forms/browse/UPesq_Master.h"
+#include "forms/browse/UPesquisa.h"
 #include "platform/data/DataSet.h"
 #include "platform/rtl/DateTime.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
+#include "platform/ui/DBCtrls.h"
 #include "platform/ui/DBGrid.h"
+#include "platform/ui/ListBoxes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,35 +57,83 @@ class TTour {
         Clientes()->ExibirRegistrosExcludos1Click(nullptr);
     }
 
+    void Filters() {
+        Clientes()->Filtros1Click(nullptr);
+        auto* dialog = dynamic_cast<TFrmPesquisa*>(Clientes()->ChildForm());
+        dialog->LstCampos->SetItemIndex(dialog->LstCampos->Items()->IndexOf(u"Cidade"_s));
+        dialog->CbOperador->SetItemIndex(6);
+        dialog->CbOperadorChange(nullptr);
+        dialog->EValor1->SetText(u"cur"_s);
+        dialog->AdicionarClick(nullptr);
+        dialog->LstCampos->SetItemIndex(dialog->LstCampos->Items()->IndexOf(u"Cadastro"_s));
+        dialog->CbOperador->SetItemIndex(8);
+        dialog->CbOrdem->SetItemIndex(2);
+        dialog->CbOperadorChange(nullptr);
+        dialog->DpValor1->SetDate(EncodeDate(2020, 1, 1));
+        dialog->AdicionarClick(nullptr);
+        Shoot(u"10-clientes-filtros"_s);
+        dialog->LimparClick(nullptr);
+        CloseChild();
+        Clientes()->RefreshData();
+    }
+
+    void Fields() {
+        Application->OnModal = [this](TForm* form) {
+            Settle();
+            const UnicodeString path = JoinPath(FFolder, u"11-clientes-campos.png"_s);
+            form->Widget()->grab().save(path);
+            fprintf(stdout, "%s\n", qPrintable(path));
+            form->Close();
+        };
+        Clientes()->Campos1Click(nullptr);
+        Application->OnModal = nullptr;
+    }
+
+    void TownLookup() {
+        Clientes()->CreateCad(2);
+        Settle();
+        auto* town = dynamic_cast<TDBEdit*>(Clientes()->ChildForm()->FindComponent(u"DbCIDADE"_s));
+        town->SetFocus();
+        int key = VK_F2;
+        town->OnKeyDown(town, key, 0);
+        auto* lookup = dynamic_cast<TFrmPesq_Master*>(Clientes()->ChildForm()->ChildForm());
+        Settle();
+        lookup->FinishSearch();
+        Shoot(u"17-procurar-municipio"_s);
+        lookup->BtnCancelaClick(nullptr);
+        Settle();
+        CloseChild();
+    }
+
     void Registration() {
         Clientes()->CreateCad(2);
-        Shoot(u"10-cliente-alterando"_s);
+        Shoot(u"12-cliente-alterando"_s);
         dynamic_cast<TFrmCad_Master*>(Clientes()->ChildForm())->BtnTabSet->SetTabIndex(1);
-        Shoot(u"11-cliente-segunda-pagina"_s);
+        Shoot(u"13-cliente-segunda-pagina"_s);
         CloseChild();
         Clientes()->CreateCad(1);
-        Shoot(u"12-cliente-incluindo"_s);
+        Shoot(u"14-cliente-incluindo"_s);
         CloseChild();
         Clientes()->CreateCad(4);
-        Shoot(u"13-cliente-visualizando"_s);
+        Shoot(u"15-cliente-visualizando"_s);
         CloseChild();
         Clientes()->CreateCad(3);
-        Shoot(u"14-cliente-excluindo"_s);
+        Shoot(u"16-cliente-excluindo"_s);
         CloseChild();
     }
 
     void Towns() {
         FMain.OpenMunicipios();
-        Shoot(u"15-municipios"_s);
+        Shoot(u"18-municipios"_s);
     }
 
     void LargeScreen() {
         FMain.SetBounds(0, 0, 1920, 1080);
         Clientes()->Ativa();
         Clientes()->Perform(WM_SYSCOMMAND, SC_MAXIMIZE, 0);
-        Shoot(u"16-tela-grande"_s);
+        Shoot(u"19-tela-grande"_s);
         Clientes()->CreateCad(2);
-        Shoot(u"17-tela-grande-alterando"_s);
+        Shoot(u"20-tela-grande-alterando"_s);
         CloseChild();
     }
 
@@ -128,7 +180,10 @@ int WriteTour(TFrmPrincipal& main, const UnicodeString& folder) {
     TTour tour(main, folder);
     tour.MainWindow();
     tour.Customers();
+    tour.Filters();
+    tour.Fields();
     tour.Registration();
+    tour.TownLookup();
     tour.Towns();
     tour.LargeScreen();
     return 0;

@@ -15,6 +15,7 @@
 #include <set>
 
 #include "platform/rtl/Types.h"
+#include "platform/rtl/Variant.h"
 
 class TForm;
 class TFrmBase;
@@ -27,12 +28,18 @@ struct TModuleInfo {
     UnicodeString Version;
 };
 
-// One record found by a lookup search: the key fields and their values, index-aligned.
+// What a lookup search brings back: the values of the fields that it was asked for, in their order. The caller
+// owns it and keeps it until the search form is gone.
+using TResultArray = std::vector<Variant>;
 struct TResearchResult {
-    TStringArray Fields;
-    TStringArray Values;
+    bool Delivered = false;  // the user chose a record
+    TForm* Form = nullptr;   // the search form, while it lives; set by the caller
+    TResultArray Values;
+    int Count = 0;  // of the values
+
+    // Called once when a search form that delivered ends.
+    std::function<void(const TResearchResult& result)> OnDelivered;
 };
-using TResultArray = std::vector<TResearchResult>;
 
 // The host, seen from its modules. The interface outlives all its instances and forms.
 class TModuleInterface {

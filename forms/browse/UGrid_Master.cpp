@@ -185,6 +185,12 @@ UnicodeString TFrmGrid_Master::GetColumnTitle(int Index) const {
     return Index == FOrderFieldIndex ? FOrderDesc : DBGrd->Columns()[Index]->Title().Caption();
 }
 
+void TFrmGrid_Master::SetColumnTitle(int Index, const UnicodeString& Title) {
+    const bool ordering = Index == FOrderFieldIndex;
+    if (ordering) FOrderDesc = Title;
+    DBGrd->Columns()[Index]->Title().SetCaption(ordering ? kOrderMark + Title : Title);
+}
+
 void TFrmGrid_Master::FixColsWidths() {
     const QFontMetrics metrics(DBGrd->Font());
     for (int i = 0; i < DBGrd->Columns().Count(); ++i) {

@@ -56,6 +56,8 @@ class TFrmGrid_Master : public TFrmBase {
 
     // The column's caption, without the marker of the ordering column.
     UnicodeString GetColumnTitle(int Index) const;
+    // Sets that caption; the ordering column keeps its marker.
+    void SetColumnTitle(int Index, const UnicodeString& Title);
 
     // Brings the count label up to date: at once when all rows are here, else one step after the next paint;
     // until then the label is blank.
@@ -114,7 +116,7 @@ class TFrmGrid_Master : public TFrmBase {
     virtual void FormKeyDown(TComponent* Sender, int& Key, TShiftState Shift);
     void FormKeyPress(TComponent* Sender, WideChar& Key) override;
     void EdtPesquisaChange(TComponent* Sender);
-    void EdtPesquisaEnter(TComponent* Sender);
+    virtual void EdtPesquisaEnter(TComponent* Sender);
     void EdtPesquisaKeyDown(TComponent* Sender, int& Key, TShiftState Shift);
     void EdtPesquisaKeyPress(TComponent* Sender, WideChar& Key);
     void TmPesquisaTimer(TComponent* Sender);

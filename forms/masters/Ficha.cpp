@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kMargin = 16;
 constexpr int kGap = 16;
+constexpr int kBesideGap = 4;
+constexpr int kLookupWidth = 28;
 constexpr int kLabelHeight = 18;
 constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
 
@@ -41,6 +43,24 @@ TDBCheckBox* TFicha::Check(const UnicodeString& fieldName, int width) {
     auto* check = Place(new TDBCheckBox(FOwner), fieldName, width, false);
     check->SetCaption(FSource->DataSet()->FieldByName(fieldName)->DisplayLabel());
     return check;
+}
+
+TButton* TFicha::Lookup(TDBEdit* edit, const std::function<void()>& search) {
+    FLeft += kBesideGap - kGap;
+    auto* button = NewControl<TButton>(FOwner, FPage, u"Btn"_s + edit->DataField(),
+                                       QRect(FLeft, FTop + kLabelHeight, kLookupWidth, kEditHeight));
+    button->SetCaption(u"…"_s);
+    button->SetHint(u"Procurar (F2)"_s);
+    button->SetAccessibleName(u"Procurar "_s + edit->AccessibleName());
+    button->SetTabStop(false);
+    button->OnClick = [search](TComponent*) { search(); };
+    edit->OnKeyDown = [search](TComponent*, int& key, TShiftState shift) {
+        if (key != VK_F2 || shift) return;
+        key = 0;
+        search();
+    };
+    FLeft += kLookupWidth + kGap;
+    return button;
 }
 
 void TFicha::NewRow() {

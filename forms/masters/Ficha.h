@@ -11,8 +11,11 @@
 // check.
 #pragma once
 
+#include <functional>
+
 #include "platform/rtl/Types.h"
 
+class TButton;
 class TComponent;
 class TControl;
 class TDataSource;
@@ -38,6 +41,10 @@ class TFicha {
 
     // A check box that stores 'S' and 'N'; its caption stands beside it, on the line of the edits.
     TDBCheckBox* Check(const UnicodeString& fieldName, int width);
+
+    // A small button right after the control placed last (`edit`), for a lookup search: F2 in the edit does
+    // the same as the button, where Tab does not stop.
+    TButton* Lookup(TDBEdit* edit, const std::function<void()>& search);
 
     // Goes on below, at the left margin.
     void NewRow();

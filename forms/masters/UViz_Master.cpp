@@ -1,7 +1,9 @@
 #include "forms/masters/UViz_Master.h"
 
 #include "db/Filtro.h"
+#include "forms/browse/UPesquisa.h"
 #include "forms/masters/MasterRules.h"
+#include "forms/masters/UVizFields.h"
 #include "platform/data/DataSet.h"
 #include "platform/data/Field.h"
 #include "platform/rtl/CodePage.h"
@@ -16,6 +18,7 @@ namespace {
 constexpr int kSmallestFont = 6;
 constexpr int kLargestFont = 12;
 constexpr int kRowsInSight = 15;
+constexpr int kRestored = 1;  // modal result of the field dialog
 
 UnicodeString ResearchItems() {
     return u"|;|"_s;
@@ -38,6 +41,8 @@ void TFrmViz_Master::Construct() {
     BtnBuscar->Free();
     BtnBuscar = nullptr;
     Pesquisa1->SetVisible(false);
+    TBMenu->SetMenu(nullptr);
+    TBMenu->SetMenu(MainMenu1);
 }
 
 void TFrmViz_Master::FormCreate(TComponent* Sender) {
@@ -187,7 +192,21 @@ void TFrmViz_Master::RestaurarCampos1Click(TComponent*) {
     ClearProps();
     Application->MessageBox(u"A restauração foi efetuada com sucesso."_s, u"Informação"_s,
                             MB_ICONINFORMATION);
+    if (FFormCampos) FFormCampos->SetModalResult(kRestored);
     Close();
+}
+
+void TFrmViz_Master::Campos1Click(TComponent*) {
+    FinishSearch();
+    SaveGridConfig();
+    FFormCampos = NewForm<TFrmVizFields>(this, [this] { RestaurarCampos1Click(nullptr); });
+    const bool restored = FFormCampos->ShowModal() == kRestored;
+    if (!restored) SaveGridConfig();
+    std::exchange(FFormCampos, nullptr)->Free();
+}
+
+void TFrmViz_Master::Filtros1Click(TComponent*) {
+    NewForm<TFrmPesquisa>(this, Module, Module->Info(), false, true, UnicodeString());
 }
 
 void TFrmViz_Master::Paisagem1Click(TComponent* Sender) {

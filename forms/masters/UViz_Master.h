@@ -15,8 +15,8 @@
 // button first asks whether to restore it. The user's arrangement of the grid is loaded when the form is
 // created and saved when it is destroyed (GridConfig.h).
 //
-// Printing, the filter dialog and the field dialog are not offered: their buttons and menu items exist by
-// name but are not visible (BtnImprimir, Imprimir1, BtnBuscar, Pesquisa1 with Filtros1, Campos1, N3).
+// The filter dialog (UPesquisa.h; not in vtList mode) and the field dialog (UVizFields.h) are opened from its
+// menus. Printing is not offered: BtnImprimir and Imprimir1 exist by name but are not visible.
 #pragma once
 
 #include "forms/base/HeaderStrip.h"
@@ -26,6 +26,7 @@
 #include "platform/ui/ToolBar.h"
 
 class TFrmCad_Master;
+class TFrmVizFields;
 
 // The class of a registration form: makes one for a mode (1 include, 2 change, 3 delete, 4 view). Empty: the
 // module is read-only.
@@ -130,6 +131,8 @@ class TFrmViz_Master : public TFrmGrid_Master {
     void AumentarFonte1Click(TComponent* Sender);
     void DiminuirFonte1Click(TComponent* Sender);
     void RestaurarCampos1Click(TComponent* Sender);
+    void Campos1Click(TComponent* Sender);
+    void Filtros1Click(TComponent* Sender);
     void Paisagem1Click(TComponent* Sender);
     void Sair1Click(TComponent* Sender);
 
@@ -138,7 +141,8 @@ class TFrmViz_Master : public TFrmGrid_Master {
     void Construct() override;
     void WndProc(TMessage& Message) override;
 
-    int FSizeOffset = 0;  // added to the form's least width
+    TFrmVizFields* FFormCampos = nullptr;  // while it is open
+    int FSizeOffset = 0;                   // added to the form's least width
     TPickLists PickLists;
 
   private:

@@ -76,9 +76,8 @@ void TFrmViz_Master::CreateButtons() {
     BtnAlterar = button(u"BtnAlterar"_s, u"Alterar"_s, &TFrmViz_Master::BtnAlterarClick);
     BtnExcluir = button(u"BtnExcluir"_s, u"Excluir"_s, &TFrmViz_Master::BtnExcluirClick);
     BtnImprimir = button(u"BtnImprimir"_s, u"Imprimir"_s, nullptr);
-    BtnBuscar = button(u"BtnBuscar"_s, u"Pesquisa"_s, nullptr);
+    BtnBuscar = button(u"BtnBuscar"_s, u"Pesquisa"_s, &TFrmViz_Master::Filtros1Click);
     BtnImprimir->SetVisible(false);
-    BtnBuscar->SetVisible(false);
 }
 
 void TFrmViz_Master::CreateMenu() {
@@ -134,16 +133,14 @@ void TFrmViz_Master::CreateExibir() {
     ExibirRegistrosExcludos1 = AddItem(exibir, u"ExibirRegistrosExcludos1", u"Exibir Registros Excluídos...",
                                        &TFrmViz_Master::ExibirRegistrosExcludos1Click);
     N3 = AddItem(exibir, u"N3", u"-");
-    Campos1 = AddItem(exibir, u"Campos1", u"Campos...");
-    Campos1->SetVisible(false);
+    Campos1 = AddItem(exibir, u"Campos1", u"Campos...", &TFrmViz_Master::Campos1Click);
     RestaurarCampos1 =
         AddItem(exibir, u"RestaurarCampos1", u"Restaurar Padrão...", &TFrmViz_Master::RestaurarCampos1Click);
 }
 
 void TFrmViz_Master::CreatePesquisaAjuda() {
     Pesquisa1 = AddItem(MainMenu1->Items(), u"Pesquisa1", u"Pesquisa");
-    Filtros1 = AddItem(Pesquisa1, u"Filtros1", u"Filtros...");
-    Pesquisa1->SetVisible(false);
+    Filtros1 = AddItem(Pesquisa1, u"Filtros1", u"Filtros...", &TFrmViz_Master::Filtros1Click);
     Ajuda1 = AddItem(MainMenu1->Items(), u"Ajuda1", u"Ajuda");
     picosdeAjuda1 = AddItem(Ajuda1, u"picosdeAjuda1", u"&Tópicos de Ajuda...");
     Ajuda1->SetVisible(false);

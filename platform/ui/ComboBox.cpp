@@ -1,23 +1,10 @@
 #include <QAbstractItemView>
 #include <QSignalBlocker>
+#include "platform/ui/ShownList.h"
 #include "platform/ui/StdCtrls.h"
 
-// The list is kept here, so that reading it does not ask the widget.
-class TComboBox::TItems : public TStringList {
-  public:
-    explicit TItems(TComboBox& box) : FBox(box) {}
-
-  protected:
-    void Changed() override {
-        FBox.ShowItems();
-        TStringList::Changed();
-    }
-
-  private:
-    TComboBox& FBox;
-};
-
-TComboBox::TComboBox(TComponent* owner) : TWidget(owner), FItems(std::make_unique<TItems>(*this)) {
+TComboBox::TComboBox(TComponent* owner)
+    : TWidget(owner), FItems(std::make_unique<TShownList>([this] { ShowItems(); })) {
     setFocusPolicy(Qt::StrongFocus);
     setInsertPolicy(NoInsert);
     connect(this, &QComboBox::activated, this, [this] { CalledByQt(this, [this] { Change(); }); });

@@ -99,6 +99,20 @@ void TCheckBox::SetCaption(const UnicodeString& caption) {
     setText(caption);
 }
 
+TCheckBoxState TCheckBox::State() const {
+    return checkState() == Qt::PartiallyChecked ? cbGrayed : isChecked() ? cbChecked : cbUnchecked;
+}
+
+void TCheckBox::SetState(TCheckBoxState state) {
+    setCheckState(state == cbGrayed    ? Qt::PartiallyChecked
+                  : state == cbChecked ? Qt::Checked
+                                       : Qt::Unchecked);
+}
+
+void TCheckBox::nextCheckState() {
+    SetChecked(State() != cbChecked);
+}
+
 bool TCheckBox::RunMnemonic(QChar letter) {
     if (!HasMnemonic(Caption(), letter) || !CanFocus()) return false;
     SetFocus();

@@ -149,22 +149,27 @@ class TComboBox : public TWidget<QComboBox> {
     virtual void Change();
 
   private:
-    class TItems;
     void ShowItems();
-    std::unique_ptr<TItems> FItems;
+    std::unique_ptr<TStringList> FItems;  // kept here, so that reading it does not ask the widget
 };
+
+// The third state, greyed, is set by code only: the user's click on it checks the box.
+enum TCheckBoxState { cbUnchecked, cbChecked, cbGrayed };
 
 class TCheckBox : public TWidget<QCheckBox> {
   public:
     explicit TCheckBox(TComponent* owner);
     void SetCaption(const UnicodeString& caption) override;
-    bool Checked() const { return isChecked(); }
-    // Fires no event; OnClick is the user's.
-    void SetChecked(bool checked) { setChecked(checked); }
+    bool Checked() const { return State() == cbChecked; }
+    TCheckBoxState State() const;
+    // Neither fires an event; OnClick is the user's.
+    void SetChecked(bool checked) { SetState(checked ? cbChecked : cbUnchecked); }
+    void SetState(TCheckBoxState state);
     bool RunMnemonic(QChar letter) override;
 
   protected:
     ~TCheckBox() override = default;
+    void nextCheckState() override;
 };
 
 class TButton : public TWidget<QPushButton> {

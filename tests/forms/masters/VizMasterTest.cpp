@@ -22,7 +22,7 @@ TEST_F(VizMaster, LaysOutStripAndGridWithoutGaps) {
         EXPECT_EQ(view->DBGrd->Top() + view->DBGrd->Height(), view->ClientHeight());
         EXPECT_EQ(view->DBGrd->Width(), view->ClientWidth());
         EXPECT_EQ(view->TBButtons->Top() + view->TBButtons->Height() + 5, view->DBGrd->Top());
-        EXPECT_EQ(view->TBButtons->Width(), 3 * view->TBButtons->ButtonWidth());
+        EXPECT_EQ(view->TBButtons->Width(), 4 * view->TBButtons->ButtonWidth());
         EXPECT_GT(view->PnPesquisa->Left(), view->TBButtons->Width());
         EXPECT_EQ(view->LbRegCount->Left() + view->LbRegCount->Width() + 8, view->ClientWidth());
     }
