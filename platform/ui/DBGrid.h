@@ -16,7 +16,8 @@
 // selection), Ctrl+Home and Ctrl+End to the first and the last record, Left, Right and (dgTabs) Tab by
 // columns. In a grid that can be edited, typing or F2 opens the cell's editor, Enter or leaving the cell
 // writes it to the field, Escape drops the text first and the row's changes next, Down on the last row and
-// Insert make a new row, Ctrl+Delete deletes one after asking.
+// Insert make a new row, Ctrl+Delete deletes one after asking. Ctrl+C copies the selected cell, in row
+// selection and with Shift the whole row with its titles (GridCopy.h).
 #pragma once
 #include <memory>
 #include <QAbstractScrollArea>
@@ -142,6 +143,7 @@ class TDBGrid : public TWidget<QAbstractScrollArea>, private TColumnsHost {
     void FetchBelow();
 
     // Moving
+    bool CopyKey(const QKeyEvent& event);
     bool MoveKey(int key, bool ctrl);
     void MoveColumns(int step);
     void MoveToEnd(bool last, bool ofRecords);

@@ -1,4 +1,6 @@
 // The data grid's answers to mouse and keyboard.
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -8,6 +10,7 @@
 #include "platform/ui/Application.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/Form.h"
+#include "platform/ui/GridCopy.h"
 #include "platform/ui/GridEditor.h"
 #include "platform/ui/GridTitleDrag.h"
 #include "platform/ui/Guard.h"
@@ -76,8 +79,19 @@ void TDBGrid::keyPressEvent(QKeyEvent* event) {
     const bool ctrl = event->modifiers() & Qt::ControlModifier;
     CalledByQt(this, [&] {
         if (!DataSet() || !DataSet()->Active()) return event->ignore();
-        event->setAccepted(ChangeRowKey(*event) || EditKey(*event) || MoveKey(event->key(), ctrl));
+        event->setAccepted(CopyKey(*event) || ChangeRowKey(*event) || EditKey(*event) ||
+                           MoveKey(event->key(), ctrl));
     });
+}
+
+bool TDBGrid::CopyKey(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool copies = event.key() == Qt::Key_C || event.key() == Qt::Key_Insert;
+    if (!copies || !(modifiers & Qt::ControlModifier) || (modifiers & Qt::AltModifier) || CurrentRow() < 0)
+        return false;
+    const bool row = (FOptions & dgRowSelect) || (modifiers & Qt::ShiftModifier);
+    QGuiApplication::clipboard()->setText(row ? RowText(*this) : CellText(*this));
+    return true;
 }
 
 bool TDBGrid::MoveKey(int key, bool ctrl) {

@@ -1,4 +1,5 @@
 // The data grid as a browser: following the dataset, mouse, keys, columns, painting.
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
@@ -125,6 +126,22 @@ TEST_F(DBGridTest, ClicksChooseTheCell) {
     EXPECT_EQ(clicks, 1);
     QTest::mouseDClick(View(), Qt::LeftButton, {}, where.Title(1).center());
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(DBGridTest, CopiesTheCellOrTheRowWithItsTitles) {
+    Open(3);
+    Grid->SetSelectedIndex(1);
+    Key(Qt::Key_C, Qt::ControlModifier);
+    const UnicodeString cell = QGuiApplication::clipboard()->text();
+    EXPECT_EQ(cell, Grid->Columns()[1]->Field()->DisplayText());
+    Key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    const QStringList lines = QGuiApplication::clipboard()->text().split(u"\r\n"_s);
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines[0].section(u'\t', 1, 1), Grid->Columns()[1]->Title().Caption());
+    EXPECT_EQ(lines[1].section(u'\t', 1, 1), cell);
+    Grid->SetOptions(Grid->Options() | dgRowSelect);
+    Key(Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), lines.join(u"\r\n"_s));
 }
 
 TEST_F(DBGridTest, WheelIsTheFormsFirst) {
