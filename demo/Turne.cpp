@@ -174,9 +174,9 @@ class TTour {
 
 }  // namespace
 
-int WriteTour(TFrmPrincipal& main, const UnicodeString& folder) {
+int WriteTour(TFrmPrincipal& main, const UnicodeString& folder, const QSize& size) {
     EnsureFolder(folder);
-    main.SetBounds(0, 0, 1024, 768);
+    main.SetBounds(0, 0, size.width(), size.height());
     TTour tour(main, folder);
     tour.MainWindow();
     tour.Customers();

@@ -3,7 +3,8 @@
 //     comercial                      opens the main window
 //     comercial --banco FILE         another database file
 //     comercial --consulta           a user who may look, but not change
-//     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour)
+//     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour);
+//                                    --tamanho 800x600 sizes its main window, 1024x768 at first
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTemporaryDir>
@@ -25,6 +26,7 @@ namespace {
 struct TOptions {
     UnicodeString Database;
     UnicodeString TourFolder;
+    QSize TourSize;
     bool ReadOnly = false;
 };
 
@@ -35,8 +37,11 @@ TOptions ReadOptions(const QApplication& app) {
     parser.addOption({u"consulta"_s, u"Abre o programa para um usuário que só pode consultar."_s});
     parser.addOption(
         {{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
+    parser.addOption({u"tamanho"_s, u"Tamanho da janela principal nas imagens."_s, u"LxA"_s, u"1024x768"_s});
     parser.process(app);
-    return {parser.value(u"banco"_s), parser.value(u"turne"_s), parser.isSet(u"consulta"_s)};
+    const QStringList size = parser.value(u"tamanho"_s).split(u'x');
+    return {parser.value(u"banco"_s), parser.value(u"turne"_s),
+            QSize(size.value(0).toInt(), size.value(1).toInt()), parser.isSet(u"consulta"_s)};
 }
 
 void PrepareDatabase(const UnicodeString& path) {
@@ -56,7 +61,7 @@ int RunHost(const TOptions& options) {
     auto* main = NewForm<TFrmPrincipal>(Application, data);
     main->SetIcon(LoadIconResource(u":/fichario"_s, u"FICHARIO"_s));
     if (options.ReadOnly) main->Clientes().SetRights({});
-    if (!options.TourFolder.isEmpty()) return WriteTour(*main, options.TourFolder);
+    if (!options.TourFolder.isEmpty()) return WriteTour(*main, options.TourFolder, options.TourSize);
     return Application->Run();
 }
 

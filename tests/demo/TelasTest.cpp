@@ -1,0 +1,119 @@
+// What holds for every screen: a name for each control that a screen reader meets, no letter twice among the
+// mnemonics of a form; and the lookup of a town, by keys.
+#include <gtest/gtest.h>
+#include <QAccessible>
+#include <QTemporaryDir>
+
+#include "demo/dados/Banco.h"
+#include "demo/FrmClientes.h"
+#include "demo/FrmPrincipal.h"
+#include "forms/browse/UPesq_Master.h"
+#include "platform/data/DataSet.h"
+#include "platform/system/Paths.h"
+#include "platform/ui/Application.h"
+#include "tests/support/Screen.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Returns how many controls were looked at.
+int ExpectNames(const TControl& parent) {
+    int count = 0;
+    for (TControl* control : parent.Controls()) {
+        if (!control->Visible()) continue;
+        QWidget* widget = control->Widget();
+        const bool met = widget->focusPolicy() != Qt::NoFocus || control->OnClick;
+        if (met && !dynamic_cast<TPageControl*>(control)) {
+            const QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
+            EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name().toStdString();
+            ++count;
+        }
+        count += ExpectNames(*control);
+    }
+    return count;
+}
+
+void CollectMnemonics(const TControl& parent, QStringList& letters) {
+    for (const TControl* control : parent.Controls()) {
+        if (!control->Visible()) continue;
+        const qsizetype at = control->Caption().indexOf(u'&');
+        if (at >= 0) letters << control->Caption().mid(at + 1, 1).toUpper();
+        CollectMnemonics(*control, letters);
+    }
+}
+
+void ExpectUsable(TForm* form) {
+    SCOPED_TRACE(form->Caption().toStdString());
+    EXPECT_GT(ExpectNames(*form), 1);
+    QStringList letters;
+    CollectMnemonics(*form, letters);
+    const QStringList all = letters;
+    EXPECT_EQ(letters.removeDuplicates(), 0) << all.join(u' ').toStdString();
+}
+
+class Telas : public testing::Test {
+  protected:
+    void SetUp() override {
+        SetProgramFolder(Folder.path());
+        CriarBancoDeExemplo(Folder.filePath(u"c.fdb"_s), 60);
+        Data->OpenDatabase(Folder.filePath(u"c.fdb"_s));
+        Main = NewForm<TFrmPrincipal>(Application, Data);
+        Main->OpenMunicipios();
+        Main->OpenClientes();
+        Clientes = dynamic_cast<TFrmClientes*>(Main->OpenForms().back());
+        Settle();
+    }
+    void TearDown() override {
+        Main->Free();
+        Data->Free();
+        SetProgramFolder({});
+    }
+
+    QTemporaryDir Folder;
+    TDM_Comercial* Data = new TDM_Comercial(nullptr);
+    TFrmPrincipal* Main = nullptr;
+    TFrmClientes* Clientes = nullptr;
+};
+
+TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
+    ExpectUsable(Main);
+    for (TFrmBase* form : Main->OpenForms()) ExpectUsable(form);
+    ExpectModal([](TForm* form) {
+        ExpectUsable(form);
+        form->Close();
+    });
+    Clientes->Campos1->Click();
+    Clientes->Filtros1->Click();
+    ExpectUsable(Clientes->ChildForm());
+    Press(VK_ESCAPE);
+    Settle();
+    Press(VK_RETURN);
+    TFrmBase* ficha = Clientes->ChildForm();
+    ASSERT_TRUE(ficha);
+    ExpectUsable(ficha);
+    Find<TControl>(ficha, u"DbCIDADE"_s)->SetFocus();
+    Press(VK_F2);
+    ASSERT_TRUE(ficha->ChildForm());
+    ExpectUsable(ficha->ChildForm());
+    ficha->ChildForm()->Close();
+}
+
+TEST_F(Telas, TownIsLookedUpFromTheCustomersForm) {
+    Press(VK_INSERT);
+    TFrmBase* ficha = Clientes->ChildForm();
+    Find<TControl>(ficha, u"DbCIDADE"_s)->SetFocus();
+    TypeText(u"londr"_s);
+    Press(VK_F2);
+    auto* lookup = dynamic_cast<TFrmPesq_Master*>(ficha->ChildForm());
+    ASSERT_TRUE(lookup);
+    EXPECT_EQ(lookup->EdtPesquisa->Text(), u"londr"_s);
+    Press(VK_RETURN);
+    EXPECT_TRUE(Until([&] { return !ficha->ChildForm(); }));
+    TDataSet* record = dynamic_cast<TFrmCad_Master*>(ficha)->MainDS->DataSet();
+    EXPECT_EQ(record->FieldByName(u"CIDADE"_s)->AsString(), u"Londrina"_s);
+    EXPECT_EQ(record->FieldByName(u"NM_EST"_s)->AsString(), u"PR"_s);
+    record->Cancel();
+}
+
+}  // namespace
