@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "forms/masters/Critica.h"
+#include "forms/masters/GridRoom.h"
 #include "forms/masters/KeyRecord.h"
 #include "forms/masters/UViz_Master.h"
 #include "platform/data/Query.h"
@@ -12,7 +13,6 @@
 #include "platform/rtl/FormatSettings.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/DBCtrls.h"
-#include "platform/ui/DBGrid.h"
 #include "utils/funcoes/Dinheiro.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,14 +36,6 @@ int64_t RecordNumber(const TDataSet& dataSet) {
 void Reopen(TDataSet& dataSet) {
     dataSet.Close();
     dataSet.Open();
-}
-
-// Leaves room for the scroll bar in the column that the host names by the grid's tag.
-void NarrowColumn(TDBGrid& grid) {
-    const auto index = grid.Tag();
-    if (index < 0 || index >= grid.Columns().Count()) return;
-    TColumn* column = grid.Columns()[int(index)];
-    column->SetWidth(column->Width() - TForm::VerticalScrollBarWidth());
 }
 
 }  // namespace
@@ -105,9 +97,9 @@ void TFrmCad_Master::OpenOwnRecord() {
 }
 
 void TFrmCad_Master::PrepareOwned() {
+    LeaveScrollBarRoom(*this);
     for (int i = 0; i < ComponentCount(); ++i) {
         TComponent* component = Components(i);
-        if (auto* grid = dynamic_cast<TDBGrid*>(component)) NarrowColumn(*grid);
         if (auto* field = dynamic_cast<TNumericField*>(component)) PrepareNumber(*field);
         if (auto* dataSet = dynamic_cast<TDataSet*>(component)) PrepareFields(*dataSet);
     }
