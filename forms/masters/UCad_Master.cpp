@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "forms/masters/Critica.h"
+#include "forms/masters/Gravacao.h"
 #include "forms/masters/GridRoom.h"
 #include "forms/masters/KeyRecord.h"
 #include "forms/masters/UViz_Master.h"
@@ -163,8 +164,10 @@ void TFrmCad_Master::ConfirmRecord() {
     CommitActiveControl();
     CriticaBranco();
     if (FOperation == kIncluir && FConfirmToPost && !Asks(u"Confirma os dados?"_s)) return;
-    if (FOnConfirm) FOnConfirm(FMainDataSet, FOperation);
-    PostRecord();
+    SaveTogether(*FMainDataSet, [this] {
+        if (FOnConfirm) FOnConfirm(FMainDataSet, FOperation);
+        PostRecord();
+    });
     CloseConfirmed();
 }
 

@@ -70,6 +70,39 @@ TEST_F(CadMaster, IncludesAfterAskingAndShowsTheNewRecord) {
     }
 }
 
+// The host posts its items in AfterPost; with them the record is saved as a whole or not at all.
+TEST_F(CadMaster, SavesWithTheHostsOwnRowsOrNotAtAll) {
+    for (const int key : {VK_INSERT, VK_RETURN}) {
+        SCOPED_TRACE(key);
+        TFrmTesteCliente* form = Open(vtFilter, key);
+        bool fails = true;
+        form->FOnConfirm = [&](TDataSet*, unsigned char) {
+            Caso.Connection->ExecSQL(
+                u"INSERT INTO CLIENTE (ID_CLI, NM_CLI) VALUES (%1, 'ITEM')"_s.arg(800 + key));
+        };
+        form->MainDS->DataSet()->AfterPost = [&](TDataSet*) {
+            if (std::exchange(fails, false)) throw Exception(u"Sem estoque."_s);
+        };
+        if (key == VK_INSERT) form->MainDS->DataSet()->FieldByName(u"ID_CLI"_s)->SetAsInteger(60);
+        form->Nome->SetFocus();
+        Press('A', ssCtrl);
+        TypeText(u"Eva"_s);
+        form->FConfirmToPost = false;
+        ExpectBox(u"Sem estoque."_s, u"Erro"_s, MB_ICONERROR);
+        Press(VK_F12);
+        ASSERT_EQ(Ficha(ViewForm), form);
+        EXPECT_EQ(form->MainDS->DataSet()->State(), key == VK_INSERT ? dsInsert : dsEdit);
+        EXPECT_EQ(form->Nome->Text(), u"Eva"_s);
+        EXPECT_EQ(Scalar("SELECT COUNT(*) FROM CLIENTE WHERE NM_CLI IN ('Eva', 'ITEM')"), u"0"_s);
+        Press(VK_F12);
+        EXPECT_TRUE(Closed());
+        EXPECT_EQ(Scalar("SELECT COUNT(*) FROM CLIENTE WHERE NM_CLI IN ('Eva', 'ITEM')"), u"2"_s);
+        Caso.Connection->ExecSQL(u"DELETE FROM CLIENTE WHERE NM_CLI IN ('Eva', 'ITEM')"_s);
+        Caso.Connection->ExecSQL(u"UPDATE OR INSERT INTO CLIENTE (ID_CLI, NM_CLI) VALUES (1, 'ANA')"_s);
+        ViewForm->Free();
+    }
+}
+
 TEST_F(CadMaster, AsksBeforeThrowingChangesAway) {
     TFrmTesteCliente* form = Open(vtFilter, VK_RETURN);
     TypeText(u"X"_s);  // still in the edit only

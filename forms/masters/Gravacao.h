@@ -1,0 +1,17 @@
+// Saving a record together with all that the host does for it.
+//
+//     SaveTogether(*FMainDataSet, [&] { FOnConfirm(FMainDataSet, mode); FMainDataSet->Post(); });
+//
+// What the host does before the post and in the dataset's AfterPost (the items of an order) and the post
+// itself are one transaction.
+#pragma once
+
+#include <functional>
+
+class TDataSet;
+
+// Runs `work`, which posts `dataSet`, inside a transaction of its connection and commits. When anything
+// throws, all of it is rolled back, the record is in insert or edit state again with every value that it had
+// before, and the exception goes on. A dataset without a connection, or a transaction that the host has begun
+// itself, is left to the host: then `work` just runs.
+void SaveTogether(TDataSet& dataSet, const std::function<void()>& work);

@@ -1,0 +1,25 @@
+// What a grid form hands to the printing program: a file that describes the columns, beside the file with the
+// rows.
+//
+//     WritePrintDefinition(*this, Paisagem1->Checked(), JoinPath(ProgramFolder(), u"repvwi.dat"));
+//
+// An INI file. Section INFORMATION: Name (the form's caption), Model (0 portrait, 1 landscape), Count (of
+// columns). One section FIELD_nn for each column in the grid's order: FieldName, DisplayLabel (the title),
+// DisplayFormat (numbers and dates), DisplayWidth (characters), EditMask (only where there is one), Visible.
+#pragma once
+
+#include "platform/rtl/Types.h"
+
+class QFontMetrics;
+class TFrmGrid_Master;
+
+// The files' names, in the program's folder, and the printing program's.
+inline constexpr QStringView kPrintRows = u"repvw.dat";
+inline constexpr QStringView kPrintDefinition = u"repvwi.dat";
+inline constexpr QStringView kPrintProgram = u"GridReport.exe";
+
+// Writes the definition in place of an old one. EInOutError.
+void WritePrintDefinition(TFrmGrid_Master& form, bool landscape, const UnicodeString& path);
+
+// How many letters "A" exceed `width` pixels; 50 at most.
+int WidthInLetters(const QFontMetrics& metrics, int width);
