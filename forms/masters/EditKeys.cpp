@@ -6,6 +6,7 @@
 #include "platform/ui/DBCtrls.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/KeyHub.h"
+#include "platform/ui/RichEdit.h"
 #include "utils/funcoes/Teclas.h"
 
 namespace {
@@ -74,6 +75,9 @@ TEditControl DescribeControl(TControl* control) {
         DescribeMemo(state, TEditControl::DBMemo, *dbMemo);
     } else if (auto* memo = dynamic_cast<TMemo*>(control)) {
         DescribeMemo(state, TEditControl::Memo, *memo);
+    } else if (auto* rich = dynamic_cast<TDBRichEdit*>(control)) {
+        state.Kind = TEditControl::RichEdit;
+        state.WantsEnter = rich->WantReturns();
     } else if (control && qobject_cast<QTreeView*>(control->Widget())) {
         state.Kind = TEditControl::Tree;
     }

@@ -195,6 +195,7 @@ TEST_F(Dialogos, LookupWithoutARecordOrAResultFieldSaysSo) {
     lookup->FinishSearch();
     EXPECT_THROW(lookup->BtnRetornarClick(nullptr), Exception);
     EXPECT_EQ(lookup->Tag(), 5);
+    lookup->Free();  // before its result
 }
 
 }  // namespace
