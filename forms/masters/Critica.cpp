@@ -8,6 +8,7 @@
 #include "platform/ui/DBCtrls.h"
 #include "platform/ui/Form.h"
 #include "utils/funcoes/Documentos.h"
+#include "utils/funcoes/Inscricao.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,6 +46,7 @@ TFault CheckEdit(const TDBEdit& edit) {
     if (!edit.ReadOnly()) {
         if (TFault fault = CriticaObrigatorio(*field)) return fault;
     }
+    if (TFault fault = CriticaInscricao(*field)) return fault;
     return SameText(edit.DataField(), u"NR_CPF"_s) ? CriticaCPF(field->AsString()) : std::nullopt;
 }
 
@@ -93,6 +95,18 @@ std::optional<UnicodeString> CriticaCPF(const UnicodeString& number) {
         return u"Número de CNPJ inválido! Entre com um CNPJ válido antes de prosseguir."_s;
     }
     return u"Número de CPF ou CNPJ inválido! Entre com um CNPJ válido antes de prosseguir."_s;
+}
+
+std::optional<UnicodeString> CriticaInscricao(const TField& field) {
+    const bool registration =
+        SameText(field.FieldName(), u"NR_INS_EST"_s) || SameText(field.FieldName(), u"NR_IDE"_s);
+    const TField* document = registration ? field.DataSet()->FindField(u"NR_CPF"_s) : nullptr;
+    if (!document || document->AsString().size() != kCnpjLength) return std::nullopt;
+    const UnicodeString number = field.AsString();
+    const TField* state = field.DataSet()->FindField(u"NM_EST"_s);
+    if (number.isEmpty() || number == u"ISENTO") return std::nullopt;
+    if (InscEstadual(number, state ? state->AsString() : UnicodeString())) return std::nullopt;
+    return u"Inscrição Estadual inválida! Entre com uma Inscrição Estadual válido antes de prosseguir."_s;
 }
 
 void CriticaBranco(TForm& form, const std::function<void(TControl*)>& showPage) {

@@ -7,10 +7,11 @@
 // Checked are the form's data-aware edits, combo boxes and lookup combo boxes:
 //   edit, required text or date    empty after trimming; read-only edits are skipped
 //   edit, required number          not above 0 (0 counts as empty); read-only edits are skipped
+//   edit on NR_INS_EST or NR_IDE   a company's (NR_CPF of 14 characters), not empty and not ISENTO: must be a
+//                                  registration of the state NM_EST (utils/funcoes/Inscricao.h)
 //   edit on NR_CPF, not empty      11 characters must be a CPF, 14 a CNPJ, any other length is wrong
 //   combo box, required            empty text
 //   lookup combo box, required     empty displayed text
-// The state registration (NR_INS_EST, NR_IDE) is not checked here.
 #pragma once
 
 #include <functional>
@@ -33,3 +34,7 @@ std::optional<UnicodeString> CriticaCPF(const UnicodeString& number);
 // What is wrong with the value of a field that the user may type into; nothing when it is not required or
 // filled in.
 std::optional<UnicodeString> CriticaObrigatorio(const TField& field);
+
+// What is wrong with the state registration in a field NR_INS_EST or NR_IDE, beside the fields NR_CPF and
+// NM_EST of its dataset; nothing for another field. Raises what InscEstadual raises.
+std::optional<UnicodeString> CriticaInscricao(const TField& field);

@@ -2,6 +2,7 @@
 // mnemonics of a form; and the lookup of a town, by keys.
 #include <gtest/gtest.h>
 #include <QAccessible>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "demo/dados/Banco.h"
@@ -97,6 +98,27 @@ TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     ASSERT_TRUE(ficha->ChildForm());
     ExpectUsable(ficha->ChildForm());
     ficha->ChildForm()->Close();
+}
+
+TEST_F(Telas, CompanysStateRegistrationIsChecked) {
+    ASSERT_TRUE(QFile::copy(QStringLiteral(INSCEST_LIBRARY), Folder.filePath(u"libDllInscE32.so"_s)));
+    Press(VK_INSERT);
+    auto* ficha = dynamic_cast<TFrmCad_Master*>(Clientes->ChildForm());
+    TDataSet* record = ficha->MainDS->DataSet();
+    const std::pair<const char16_t*, const char16_t*> values[] = {{u"NM_CLI", u"Mercado"},
+                                                                  {u"NR_CPF", u"11222333000181"},
+                                                                  {u"NM_EST", u"SP"},
+                                                                  {u"NR_INS_EST", u"110042490115"}};
+    for (const auto& [field, value] : values)
+        record->FieldByName(QString::fromUtf16(field))->SetAsString(QString::fromUtf16(value));
+    ExpectBox(u"Inscrição Estadual inválida! Entre com uma Inscrição Estadual válido antes de prosseguir."_s,
+              u"Aviso"_s, MB_ICONWARNING);
+    Press(VK_F12);
+    EXPECT_TRUE(Find<TControl>(ficha, u"DbNR_INS_EST"_s)->Focused());
+    record->FieldByName(u"NR_INS_EST"_s)->SetAsString(u"110042490114"_s);
+    ExpectBox(u"Confirma os dados?"_s, u"Confirmação"_s, MB_YESNO | MB_ICONQUESTION, IDYES);
+    Press(VK_F12);
+    EXPECT_TRUE(Until([&] { return !Clientes->ChildForm(); }));
 }
 
 TEST_F(Telas, TownIsLookedUpFromTheCustomersForm) {
