@@ -28,8 +28,22 @@ AttachSettings SettingsOf(const TStrings& params) {
     settings.Local =
         isSaid(u"Protocol", u"Local") || (value(u"Protocol").isEmpty() && settings.Server.isEmpty());
     if (const int size = value(u"PageSize").toInt()) settings.PageSize = size;
+    if (const int seconds = value(u"ConnectTimeout").toInt(); seconds > 0) settings.ConnectTimeout = seconds;
     settings.ForcedWrites = !isSaid(u"ForcedWrites", u"False");
     return settings;
+}
+
+// The server takes a role that does not exist, or was not granted, for none and says nothing.
+void CheckRole(Attachment& attachment, const AttachSettings& settings) {
+    if (settings.Role.isEmpty()) return;
+    const RowStore rows = ReadRows(attachment, u"SELECT TRIM(CURRENT_ROLE) FROM RDB$DATABASE"_s, {});
+    const UnicodeString given = rows.Value(0, 0).ToText();
+    if (given.compare(settings.Role, Qt::CaseInsensitive) == 0) return;
+    EFDError error = ErrorOfCodes({kInvalidRole})
+                         .Saying(u"O papel \"%1\" não existe ou não foi concedido ao usuário %2."_s.arg(
+                             settings.Role, settings.User));
+    error.ConnectionUsable = false;
+    throw error;
 }
 
 // Values in the order of the names' first appearance, for each place of the text.
@@ -81,7 +95,12 @@ std::shared_ptr<Attachment> TFDCustomConnection::RequireAttachment() {
         FAttachment.reset();
         if (OnLost) OnLost(this);
     }
-    if (!FAttachment) FAttachment = Attachment::Attach(SettingsOf(FParams));
+    if (!FAttachment) {
+        const AttachSettings settings = SettingsOf(FParams);
+        const std::shared_ptr<Attachment> attachment = Attachment::Attach(settings);
+        CheckRole(*attachment, settings);
+        FAttachment = attachment;
+    }
     return FAttachment;
 }
 

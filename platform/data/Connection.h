@@ -33,7 +33,9 @@ class TFDCustomConnection : public TComponent {
     //   Server         host, or host/port; with Protocol=TCPIP
     //   Protocol       TCPIP, or Local: the engine inside this process opens the file
     //   Database       path or alias; unchanged to a remote server
+    //                  (a name that begins with / takes \ for /, and \name is an alias)
     //   User_Name, Password, RoleName
+    //   ConnectTimeout seconds until a server must have answered; 10 at first
     //   CharacterSet   ISO8859_1 (at first; the bytes are taken as Windows-1252) or UTF8
     //   PageSize       of a database that CreateDatabase makes: 4096, 8192 or 16384
     //   ForcedWrites   False: a database that CreateDatabase makes leaves writing to the system's cache

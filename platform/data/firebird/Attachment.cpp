@@ -1,11 +1,16 @@
 #include "platform/data/firebird/Attachment.h"
 
+#include <sys/syscall.h>
+#include <unistd.h>
 #include <algorithm>
 #include "platform/data/firebird/AttachErrors.h"
 #include "platform/data/firebird/ClientLibrary.h"
+#include "platform/data/firebird/DatabaseName.h"
 #include "platform/data/firebird/FbApi.h"
+#include "platform/data/firebird/FbErrors.h"
 #include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/Statement.h"
+#include "platform/data/firebird/TcpProbe.h"
 #include "platform/data/firebird/Transaction.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -62,6 +67,7 @@ void Fill(AttachOptions& options, const AttachSettings& settings) {
     options.Text(isc_dpb_lc_ctype, settings.CharacterSet);
     if (!settings.Role.isEmpty()) options.Text(isc_dpb_sql_role_name, settings.Role);
     if (settings.Local) options.Text(isc_dpb_config, u"Providers=Engine12"_s);
+    if (!settings.Local) options.Number(isc_dpb_connect_timeout, settings.ConnectTimeout);
 }
 
 void FillNew(AttachOptions& options, const AttachSettings& settings) {
@@ -71,15 +77,31 @@ void FillNew(AttachOptions& options, const AttachSettings& settings) {
     options.Text(isc_dpb_set_db_charset, settings.CharacterSet);
 }
 
+UnicodeString ServerOf(const AttachSettings& settings) {
+    return settings.Server.isEmpty() ? u"localhost"_s : settings.Server;
+}
+
 UnicodeString PlaceOf(const AttachSettings& settings) {
-    if (settings.Local) return settings.Database;
-    const UnicodeString server = settings.Server.isEmpty() ? u"localhost"_s : settings.Server;
-    return server + u':' + settings.Database;
+    const UnicodeString name = NameForServer(settings.Database);
+    return settings.Local ? name : ServerOf(settings) + u':' + name;
+}
+
+// The client library itself has no limit for reaching a host.
+void RequireAnswer(const AttachSettings& settings) {
+    if (settings.Local || AnswersWithin(ServerOf(settings), settings.ConnectTimeout)) return;
+    throw AttachErrorOf(ErrorOfCodes({isc_network_error, isc_net_connect_err}), settings, false);
+}
+
+// A program started later must not keep the connection, and with it locks, alive.
+void KeepFromOtherPrograms() {
+    constexpr unsigned kFirstOwnFile = 3, kCloseOnExec = 4;
+    syscall(SYS_close_range, kFirstOwnFile, ~0U, kCloseOnExec);
 }
 
 }  // namespace
 
 std::shared_ptr<Attachment> Attachment::Reach(const AttachSettings& settings, bool create) {
+    RequireAnswer(settings);
     Firebird::IProvider* provider = ClientLibrary().getDispatcher();
     Firebird::IAttachment* handle = nullptr;
     const QByteArray place = PlaceOf(settings).toUtf8();
@@ -100,6 +122,7 @@ std::shared_ptr<Attachment> Attachment::Reach(const AttachSettings& settings, bo
         throw AttachErrorOf(error, settings, create);
     }
     provider->release();
+    KeepFromOtherPrograms();
     return std::shared_ptr<Attachment>(new Attachment(handle, settings));
 }
 

@@ -27,6 +27,7 @@ struct AttachSettings {
     UnicodeString User, Password, Role;
     UnicodeString CharacterSet;  // a name the server knows
     bool Local = false;          // the engine inside this process
+    int ConnectTimeout = 10;     // seconds until a server must have answered
     int PageSize = 16384;        // of a new database
     bool ForcedWrites = true;    // of a new database
 };

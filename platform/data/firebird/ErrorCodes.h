@@ -7,4 +7,6 @@ namespace fichario {
 constexpr int64_t kReadOnlyTransaction = 335544361;  // a write in the transaction that only reads
 constexpr int64_t kConnectionLost = 335544856;       // the server or somebody on it ended the connection
 
+constexpr int64_t kInvalidRole = 335545091;          // the role does not exist or is not granted
+
 }  // namespace fichario
