@@ -68,9 +68,10 @@ function(fichario_library name)
 endfunction()
 
 # One executable of tests; every test has a time limit and runs without a screen. WIDGETS links the main that starts
-# the screen side, LOCALES runs the same tests once more under pt_BR.UTF-8.
+# the screen side, LOCALES runs the same tests once more under pt_BR.UTF-8, SERVER once more on a private server
+# (tests/servidor), which is started before the first of them and stopped after the last.
 function(fichario_test name)
-  cmake_parse_arguments(TEST "WIDGETS;LOCALES" "SECONDS" "SOURCES;USES;LINK" ${ARGN})
+  cmake_parse_arguments(TEST "WIDGETS;LOCALES;SERVER" "SECONDS" "SOURCES;USES;LINK" ${ARGN})
   if(NOT TEST_SECONDS)
     set(TEST_SECONDS 60)
   endif()
@@ -90,5 +91,10 @@ function(fichario_test name)
   if(TEST_LOCALES)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "pt_BR/"
       PROPERTIES TIMEOUT ${TEST_SECONDS} ENVIRONMENT "${environment};LC_ALL=pt_BR.UTF-8")
+  endif()
+  if(TEST_SERVER)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "tcp/"
+      PROPERTIES TIMEOUT ${TEST_SECONDS} FIXTURES_REQUIRED servidor
+                 ENVIRONMENT "${environment};LC_ALL=C;FICHARIO_TEST_SERVER=${CMAKE_BINARY_DIR}/servidor")
   endif()
 endfunction()

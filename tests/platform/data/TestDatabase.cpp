@@ -1,5 +1,6 @@
 #include "tests/platform/data/TestDatabase.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -33,7 +34,11 @@ const TStringArray kRows = {
 void SetParams(TFDConnection& connection, const UnicodeString& path, const UnicodeString& characterSet) {
     TStrings& params = *connection.Params();
     params.SetText(
-        u"DriverID=FB\nProtocol=Local\nUser_Name=SYSDBA\nPassword=x\nForcedWrites=False\nPageSize=8192"_s);
+        u"DriverID=FB\nProtocol=Local\nUser_Name=SYSDBA\nPassword=teste\nForcedWrites=False\nPageSize=8192"_s);
+    if (OnServer()) {
+        params.SetValue(u"Protocol"_s, u"TCPIP"_s);
+        params.SetValue(u"Server"_s, u"127.0.0.1/"_s + ServerPort());
+    }
     params.SetValue(u"Database"_s, path);
     params.SetValue(u"CharacterSet"_s, characterSet);
 }
@@ -45,9 +50,15 @@ void Run(TFDConnection& connection, const TStringArray& statements) {
     connection.Commit();
 }
 
+// Where databases may lie: on the server's side in the folder that it allows.
+QString FolderTemplate() {
+    return OnServer() ? qEnvironmentVariable("FICHARIO_TEST_SERVER") + u"/db/XXXXXX"_s
+                      : QDir::tempPath() + u"/fichario-XXXXXX"_s;
+}
+
 // The database that all tests begin with.
 UnicodeString Master() {
-    static QTemporaryDir folder;
+    static QTemporaryDir folder(FolderTemplate());
     static const UnicodeString path = [] {
         const UnicodeString file = folder.filePath(u"mestre.fdb"_s);
         auto* connection = new TFDConnection(nullptr);
@@ -62,6 +73,17 @@ UnicodeString Master() {
 }
 
 }  // namespace
+
+bool OnServer() {
+    return qEnvironmentVariableIsSet("FICHARIO_TEST_SERVER");
+}
+
+UnicodeString ServerPort() {
+    QFile file(qEnvironmentVariable("FICHARIO_TEST_SERVER") + u"/porta"_s);
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
+}
+
+DataTest::DataTest() : FFolder(FolderTemplate()) {}
 
 void DataTest::SetUp() {
     ASSERT_TRUE(QFile::copy(Master(), Path()));

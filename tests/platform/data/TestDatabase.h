@@ -1,4 +1,5 @@
-// A database of its own for each test: made once in a run by the embedded engine, copied for each case.
+// A database of its own for each test: made once in a run, copied for each case. The embedded engine opens
+// it, or, where FICHARIO_TEST_SERVER names the folder of a private server (tests/servidor), that server.
 //
 //     TEST_F(DataTest, Reads) { TFDQuery* query = Open(u"SELECT * FROM CLIENTE"_s); … }
 #pragma once
@@ -15,8 +16,12 @@ inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }
 
+bool OnServer();
+UnicodeString ServerPort();
+
 class DataTest : public ::testing::Test {
   protected:
+    DataTest();
     void SetUp() override;
     void TearDown() override;
 
