@@ -67,6 +67,19 @@ function(fichario_library name)
   set_target_properties(Fichario${name} PROPERTIES LINKER_LANGUAGE CXX)
 endfunction()
 
+# The tests of an executable under names that begin with `prefix`, with the variables that follow. They come
+# through env(1) as the program that runs the program: the discovery takes lists of properties apart.
+function(fichario_discover name prefix)
+  set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR
+    env QT_QPA_PLATFORM=offscreen FIREBIRD_LOCK=${CMAKE_BINARY_DIR}/lock ${ARGN})
+  set(fixtures "")
+  if(prefix STREQUAL "tcp/")
+    set(fixtures FIXTURES_REQUIRED servidor)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${prefix}"
+    PROPERTIES TIMEOUT ${TEST_SECONDS} ${fixtures})
+endfunction()
+
 # One executable of tests; every test has a time limit and runs without a screen. WIDGETS links the main that starts
 # the screen side, LOCALES runs the same tests once more under pt_BR.UTF-8, SERVER once more on a private server
 # (tests/servidor), which is started before the first of them and stopped after the last.
@@ -84,17 +97,12 @@ function(fichario_test name)
     target_link_libraries(${name} PRIVATE test_support)
   endif()
   target_link_libraries(${name} PRIVATE GTest::gtest ${TEST_LINK})
-  set(environment "QT_QPA_PLATFORM=offscreen;FIREBIRD_LOCK=${CMAKE_BINARY_DIR}/lock")
   include(GoogleTest)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT ${TEST_SECONDS} ENVIRONMENT "${environment};LC_ALL=C")
+  fichario_discover(${name} "" LC_ALL=C)
   if(TEST_LOCALES)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "pt_BR/"
-      PROPERTIES TIMEOUT ${TEST_SECONDS} ENVIRONMENT "${environment};LC_ALL=pt_BR.UTF-8")
+    fichario_discover(${name} "pt_BR/" LC_ALL=pt_BR.UTF-8)
   endif()
   if(TEST_SERVER)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "tcp/"
-      PROPERTIES TIMEOUT ${TEST_SECONDS} FIXTURES_REQUIRED servidor
-                 ENVIRONMENT "${environment};LC_ALL=C;FICHARIO_TEST_SERVER=${CMAKE_BINARY_DIR}/servidor")
+    fichario_discover(${name} "tcp/" LC_ALL=C FICHARIO_TEST_SERVER=${CMAKE_BINARY_DIR}/servidor)
   endif()
 endfunction()
