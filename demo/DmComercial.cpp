@@ -1,5 +1,6 @@
 #include "demo/DmComercial.h"
 
+#include "db/UDBUtils.h"
 #include "demo/dados/Banco.h"
 #include "platform/data/Field.h"
 
@@ -8,6 +9,11 @@ TDM_Comercial::TDM_Comercial(TComponent* AOwner)
 
 void TDM_Comercial::OpenDatabase(const UnicodeString& path) {
     ApontarConexao(*FConnection, path);
+    FConnection->Open();
+}
+
+void TDM_Comercial::OpenConfigured() {
+    LoadConnection(FConnection);
     FConnection->Open();
 }
 

@@ -12,6 +12,9 @@ class TDM_Comercial : public TDM_Base {
     // Opens the sample database at `path` through the embedded engine. Raises with the cause in Portuguese.
     void OpenDatabase(const UnicodeString& path);
 
+    // Opens the database that Config.ini names. Raises with the cause in Portuguese.
+    void OpenConfigured();
+
     TFDConnection* Connection() const { return FConnection; }
 
     // A query on the connection, owned by `owner`, described but not opened.

@@ -4,6 +4,8 @@
 #include "demo/FrmPesqMunicipio.h"
 #include "forms/masters/Ficha.h"
 #include "platform/rtl/DateTime.h"
+#include "platform/system/UserInterface.h"
+#include "utils/UImpParticipante.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -121,7 +123,7 @@ void TFrmCadCliente::CreateMainPage() {
     ficha.Edit(u"NM_CLI"_s, 420);
     ficha.NewRow();
     ficha.Edit(u"FANTASIA"_s, 260);
-    ficha.Edit(u"NR_CPF"_s, 150);
+    ficha.Lookup(ficha.Edit(u"NR_CPF"_s, 150), [this] { FindCompany(); });
     ficha.NewRow();
     ficha.Lookup(ficha.Edit(u"CIDADE"_s, 260), [this] { FindTown(); });
     ficha.Combo(u"NM_EST"_s, SiglasDosEstados(), 80);
@@ -142,6 +144,29 @@ void TFrmCadCliente::FindTown() {
     };
     FTown.Form = NewForm<TFrmPesqMunicipio>(this, Module, &FTown,
                                             cliente->FieldByName(u"CIDADE"_s)->AsString(), FData);
+}
+
+// Fills the customer from the company's registration; the field's number, or none, which the user then types
+// there.
+void TFrmCadCliente::FindCompany() {
+    TDataSet* cliente = MainDS->DataSet();
+    if (cliente->State() != dsEdit && cliente->State() != dsInsert) return;
+    cliente->UpdateRecord();
+    UnicodeString cnpj, razao, fantasia, rua, numero, complemento, cep, bairro, cidade, uf;
+    try {
+        if (!GetParticipante(cliente->FieldByName(u"NR_CPF"_s)->AsString(), cnpj, razao, fantasia, rua,
+                             numero, complemento, cep, bairro, cidade, uf))
+            return;
+    } catch (...) {
+        UserInterface().EnableMainForm(true);
+        throw;
+    }
+    const std::pair<const char16_t*, const UnicodeString&> values[] = {
+        {u"NR_CPF", cnpj}, {u"NM_CLI", razao}, {u"FANTASIA", fantasia}, {u"CIDADE", cidade}, {u"NM_EST", uf}};
+    for (const auto& [name, value] : values) {
+        TField* field = cliente->FieldByName(UnicodeString::fromUtf16(name));
+        field->SetAsString(value.left(field->Size()));
+    }
 }
 
 void TFrmCadCliente::CreateTradePage() {

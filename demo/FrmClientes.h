@@ -34,6 +34,7 @@ class TFrmCadCliente : public TFrmCad_Master {
     void CreateMainPage();
     void CreateTradePage();
     void FindTown();
+    void FindCompany();
 
     TDM_Comercial* FData;
     TResearchResult FTown;

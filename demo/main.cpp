@@ -1,7 +1,8 @@
-// Comercial: the sample host of Fichário. On first use it creates its database in the user's data folder.
+// Comercial: the sample host of Fichário. Where Config.ini has a section DATABASE it connects to that server;
+// else the embedded engine opens its database in the user's data folder, which is created on first use.
 //
 //     comercial                      opens the main window
-//     comercial --banco FILE         another database file
+//     comercial --banco FILE         another database file, by the embedded engine
 //     comercial --consulta           a user who may look, but not change
 //     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour);
 //                                    --tamanho 800x600 sizes its main window, 1024x768 at first
@@ -9,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QTemporaryDir>
 
+#include "db/UDBUtils.h"
 #include "demo/dados/Banco.h"
 #include "demo/DmComercial.h"
 #include "demo/FrmPrincipal.h"
@@ -33,7 +35,7 @@ struct TOptions {
 TOptions ReadOptions(const QApplication& app) {
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOption({u"banco"_s, u"Arquivo do banco de dados."_s, u"arquivo"_s, CaminhoDoBanco()});
+    parser.addOption({u"banco"_s, u"Arquivo do banco de dados."_s, u"arquivo"_s});
     parser.addOption({u"consulta"_s, u"Abre o programa para um usuário que só pode consultar."_s});
     parser.addOption(
         {{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
@@ -56,8 +58,13 @@ void PrepareDatabase(const UnicodeString& path) {
 
 int RunHost(const TOptions& options) {
     auto* data = new TDM_Comercial(Application);
-    PrepareDatabase(options.Database);
-    data->OpenDatabase(options.Database);
+    if (options.Database.isEmpty() && HasConnection()) {
+        data->OpenConfigured();
+    } else {
+        const UnicodeString path = options.Database.isEmpty() ? CaminhoDoBanco() : options.Database;
+        PrepareDatabase(path);
+        data->OpenDatabase(path);
+    }
     auto* main = NewForm<TFrmPrincipal>(Application, data);
     main->SetIcon(LoadIconResource(u":/fichario"_s, u"FICHARIO"_s));
     if (options.ReadOnly) main->Clientes().SetRights({});
