@@ -135,3 +135,7 @@ bool TInputHub::FilterWidget(QWidget& widget, QEvent& event) {
 void InjectKey(int key, TShiftState shift) {
     if (hub) hub->Inject({key, shift});
 }
+
+void DropInjectedKeys() {
+    if (hub) hub->DropInjected();
+}

@@ -13,6 +13,8 @@ class TInputHub : public QObject {
 
     // Queues a stroke.
     void Inject(const TShortCutKey& stroke);
+    // Forgets the strokes that are queued.
+    void DropInjected() { FInjected.clear(); }
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;

@@ -35,3 +35,5 @@ class TShortCutSource {
 // Queues a key stroke as if it were typed: it finds the focus when it is delivered and passes all stages.
 // `key` is a virtual key code. Dropped when no form is active then.
 void InjectKey(int key, TShiftState shift = 0);
+// Forgets the strokes that InjectKey has queued.
+void DropInjectedKeys();
