@@ -1,7 +1,6 @@
-// Code page, lists of texts, edit masks.
+// Code page, lists of texts.
 #include <gtest/gtest.h>
 #include "platform/rtl/CodePage.h"
-#include "platform/rtl/EditMask.h"
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/Strings.h"
 
@@ -79,62 +78,4 @@ TEST(Strings, ChangesAreToldOncePerUpdate) {
     EXPECT_EQ(told, 2);
     { const TStringsUpdate nothing(list); }
     EXPECT_EQ(told, 2);
-}
-
-TEST(EditMask, Formats) {
-    const struct {
-        QStringView Mask, Value, Text;
-    } cases[] = {
-        {u"999.999.999-99;0; ", u"12345678909", u"123.456.789-09"},
-        {u"99.999.999/9999-99;0; ", u"12345678000195", u"12.345.678/0001-95"},
-        {u"(99)9999-9999;0; ", u"1133334444", u"(11)3333-4444"},
-        {u"!(99)99999-9999;0; ", u"11933334444", u"(11)93333-4444"},
-        {u"(99)9999-9999;0; ", u"33334444", u"(33)3344-44  "},
-        {u"!9999;0;_", u"12", u"  12"},
-        {u"(99)9999-9999;0; ", u"", u"(  )    -    "},
-        {u"99/99/0000;1;_", u"07/03/2024", u"07/03/2024"},
-        {u"99/99/0000;1;_", u"07032024", u"07/03/2024"},
-        {u"99999;0;_", u"1a2b3", u"123  "},
-        {u">LL<LL<>LL;0;_", u"aBCdEf", u"ABcdEf"},
-        {u"\\9-00;0;_", u"12", u"9-12"},
-        {u"", u"free", u"free"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(qPrintable(u"%1 : %2"_s.arg(c.Mask, c.Value)));
-        EXPECT_EQ(TEditMask(c.Mask).FormatText(c.Value), c.Text);
-    }
-}
-
-TEST(EditMask, EditedTexts) {
-    const struct {
-        QStringView Mask, Edit, Value;
-        bool Complete;
-    } cases[] = {
-        {u"99/99/0000;1;_", u"07/03/2024", u"07/03/2024", true},
-        {u"99/99/0000;1;_", u"07/03/20__", u"07/03/20  ", false},
-        {u"99/99/0000;1;_", u"__/__/____", u"", false},
-        {u"00-99;0;_", u"12-__", u"12", true},
-        {u"00-99;0;_", u"1_-__", u"1", false},
-        {u"!9999;0;_", u"__12", u"12", true},
-        {u"00-99;0;_", u"12+34", u"1234", false},
-        {u"", u"free", u"free", true},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(qPrintable(u"%1 : %2"_s.arg(c.Mask, c.Edit)));
-        EXPECT_EQ(TEditMask(c.Mask).Value(c.Edit), c.Value);
-        EXPECT_EQ(TEditMask(c.Mask).IsComplete(c.Edit), c.Complete);
-    }
-}
-
-TEST(EditMask, Places) {
-    const TEditMask mask(u"0#>L-c");
-    EXPECT_EQ(mask.Length(), 5);
-    EXPECT_TRUE(mask.SavesLiterals());
-    EXPECT_EQ(mask.Apply(u""), u"___-_"_s);
-    EXPECT_FALSE(mask.Accept(1, u' '));
-    EXPECT_EQ(mask.Accept(2, u' '), u'_');
-    EXPECT_EQ(mask.Accept(2, u'-'), u'-');
-    EXPECT_EQ(mask.Accept(3, u'ç'), u'Ç');
-    EXPECT_FALSE(mask.Accept(4, u'-'));
-    EXPECT_TRUE(mask.IsLiteral(4));
 }
