@@ -39,7 +39,10 @@ void DrawTriangle(QPainter& canvas, const QColor& color, QPoint a, QPoint b, QPo
 
 bool ForceForegroundWindow(TForm* window) {
     const QPointer<QWidget> form = window->Widget(), top = form->window();
-    if (window->WindowState() == wsMinimized) window->SetWindowState(wsNormal);
+    if (window->WindowState() == wsMinimized) {
+        window->SetWindowState(wsNormal);
+        window->Show();  // a form may hide itself while it is minimised
+    }
     top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
     if (InForeground(window, top)) return true;
     window->BringToFront();
