@@ -106,3 +106,16 @@ function(fichario_test name)
     fichario_discover(${name} "tcp/" LC_ALL=C FICHARIO_TEST_SERVER=${CMAKE_BINARY_DIR}/servidor)
   endif()
 endfunction()
+
+# Writes the examples of a manual as the tests of `fixture` into <fixture>.inc, which a source of the test includes
+# (tests/support/manual.awk tells the form). KIND: the word behind ```cpp of the blocks that are taken.
+function(fichario_manual test fixture manual)
+  cmake_parse_arguments(MANUAL "" "KIND" "" ${ARGN})
+  set(script ${CMAKE_SOURCE_DIR}/tests/support/manual.awk)
+  set(tests ${CMAKE_CURRENT_BINARY_DIR}/${fixture}.inc)
+  add_custom_command(OUTPUT ${tests}
+    COMMAND awk -v fixture=${fixture} -v kind=${MANUAL_KIND} -f ${script} ${manual} > ${tests}
+    DEPENDS ${script} ${manual} VERBATIM)
+  target_sources(${test} PRIVATE ${tests})
+  target_include_directories(${test} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+endfunction()

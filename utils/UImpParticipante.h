@@ -2,8 +2,8 @@
 //
 //     UnicodeString cnpj, razao, fantasia, endereco, numero, complemento, cep, bairro, cidade, estado;
 //     try {
-//         if (GetParticipante(typed, cnpj, razao, fantasia, endereco, numero, complemento, cep, bairro,
-//         cidade, estado)) …
+//         if (GetParticipante(typed, cnpj, razao, fantasia, endereco, numero, complemento, cep,
+//                             bairro, cidade, estado)) …
 //     } catch (...) { Application->MainForm()->SetEnabled(true); throw; }
 //
 // The program is started with "-impprt" and the CNPJ, or without one when the user is to type it there, and

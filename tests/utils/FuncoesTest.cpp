@@ -106,6 +106,14 @@ TEST(Functions, OfDates) {
                });
 }
 
+TEST(Functions, OfDocuments) {
+    CheckTable("documentos", {{"CPF", [](const TArgs& a) { return Flag(CPF(a[0])); }},
+                              {"CNPJ", [](const TArgs& a) { return Flag(CNPJ(a[0])); }},
+                              {"Mod11", [](const TArgs& a) { return Flag(Mod11(a[0], 9)); }},
+                              {"FormatCPF", [](const TArgs& a) { return FormatCPF(a[0]); }},
+                              {"FormatTelefone", [](const TArgs& a) { return FormatTelefone(a[0]); }}});
+}
+
 TEST(Functions, RtfReader) {
     CheckTable("rtf", {{"Rtf", [](const TArgs& a) { return RtfToPlainText(ToAnsi(a[0])); }}});
     EXPECT_TRUE(IsRtf("{\\rtf1}"));

@@ -1,7 +1,7 @@
 // Money: rounding, cutting, and the commercial percentages (interest, discount, mark-up, instalments).
 //
-//     Arredonda(price, 2)                          // halves away from zero: 2.675 gives 2.68, -2.675 gives
-//     -2.68 CalcPrecoVenda(cost, taxes, costs, profit)   // the price that leaves that profit
+//     Arredonda(price, 2)                              // 2.675 gives 2.68, -2.675 gives -2.68
+//     CalcPrecoVenda(cost, taxes, costs, profit)       // the price that leaves that profit
 //     Arredonda(CalcParcelas(rate, value, 12), 2)
 //
 // A value is scaled by 10^decimals and passed through its text of 15 significant digits, which takes away the
