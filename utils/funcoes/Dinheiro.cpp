@@ -13,23 +13,15 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 constexpr int64_t kSafeRaw = 1'000'000'000'000'000;  // below it a Currency has at most 15 digits
+constexpr int kLargestCurrencyScale = 12;            // nothing of a safe Currency reaches half of 10^12
 constexpr int kLargestScale = 38;                    // of a single-precision scale
-constexpr long double kSafeScaled = 1e8L;            // below it 15 digits reach far beyond the guard
-constexpr long double kGuard = 1e-4L;                // nearer to a tie or a whole number the text decides
+constexpr long double kSafeScaled = 1e14L;           // below it a text of 15 digits shows every half
+constexpr long double kLargestNoise = 0.051L;        // a little more than half its last digit there
 
 constexpr std::array<long double, 11> kPowers = {1e0L, 1e1L, 1e2L, 1e3L, 1e4L, 1e5L,
                                                  1e6L, 1e7L, 1e8L, 1e9L, 1e10L};
 
-// What a whole and a fractional part of one sign become.
-using TEnding = long double (*)(long double whole, long double fraction);
-
-long double HalfAwayFromZero(long double whole, long double fraction) {
-    return fraction >= 0.5L ? whole + 1 : fraction <= -0.5L ? whole - 1 : whole;
-}
-
-long double TowardZero(long double whole, long double) {
-    return whole;
-}
+enum TEnding { enHalfAwayFromZero, enTowardZero };
 
 // 10 raised to 0 or more, in single precision, which is exact up to 10.
 long double Scale(int decimals) {
@@ -46,24 +38,42 @@ long double WithoutBinaryNoise(long double value) {
     return result;
 }
 
-// Whether taking the noise away could carry the number over a tie or a whole number.
-bool NeedsText(long double scaled, long double fraction) {
-    const long double part = std::fabs(fraction);
-    return !(std::fabs(scaled) < kSafeScaled) || part < kGuard || part > 1 - kGuard ||
-           std::fabs(part - 0.5L) < kGuard;
+// What one unit of the fifteenth significant digit is worth in a number from 0.1 up to kSafeScaled.
+long double FifteenthDigit(int64_t whole) {
+    static constexpr std::array<long double, 15> kUnits = {1e-15L, 1e-14L, 1e-13L, 1e-12L, 1e-11L,
+                                                           1e-10L, 1e-9L,  1e-8L,  1e-7L,  1e-6L,
+                                                           1e-5L,  1e-4L,  1e-3L,  1e-2L,  1e-1L};
+    size_t digits = 0;
+    for (int64_t limit = 1; whole >= limit; limit *= 10) ++digits;
+    return kUnits[digits];
 }
 
-long double Ended(long double scaled, TEnding ending) {
-    long double whole = std::trunc(scaled);
-    if (NeedsText(scaled, scaled - whole)) {
-        scaled = WithoutBinaryNoise(scaled);
-        whole = std::trunc(scaled);
-    }
-    return ending(whole, scaled - whole);
+// Whether the text of 15 digits is at or above `near`, the half that is nearest to the number. Only where
+// half a unit of the last digit decides, within the noise of these powers, is that text written.
+bool AtOrAbove(long double near, long double magnitude, int64_t whole) {
+    const long double off = magnitude - near;
+    if (std::fabs(off) > kLargestNoise) return off > 0;
+    const long double unit = FifteenthDigit(whole);
+    if (std::fabs(off) > 0.51L * unit) return off > 0;
+    return std::fabs(off) < 0.49L * unit || WithoutBinaryNoise(magnitude) >= near;
+}
+
+// A number is on or off one of the halves 0, 0.5, 1, 1.5 …; counted in halves the rest is whole numbers.
+long double EndedInHalves(long double magnitude, TEnding ending) {
+    const int64_t twice = std::llrint(2 * magnitude);
+    const bool above = twice == 0 || AtOrAbove(static_cast<long double>(twice) / 2, magnitude, twice / 2);
+    const int64_t whole = ending == enTowardZero ? twice - !above : twice + above;
+    return static_cast<long double>(whole / 2);
+}
+
+long double Ended(long double magnitude, TEnding ending) {
+    if (magnitude < kSafeScaled) return EndedInHalves(magnitude, ending);
+    const long double read = WithoutBinaryNoise(magnitude), whole = std::trunc(read);
+    return ending == enHalfAwayFromZero && read - whole >= 0.5L ? whole + 1 : whole;
 }
 
 // A negative power of ten has no exact binary form, so both directions use the positive one.
-long double ToPlaces(long double value, int decimals, TEnding ending) {
+long double MagnitudeToPlaces(long double value, int decimals, TEnding ending) {
     if (decimals < 0) {
         const long double scale = std::pow(10.0L, -static_cast<long double>(decimals));
         return Ended(value / scale, ending) * scale;
@@ -72,9 +82,14 @@ long double ToPlaces(long double value, int decimals, TEnding ending) {
     return Ended(value * scale, ending) / scale;
 }
 
+long double ToPlaces(long double value, int decimals, TEnding ending) {
+    return value < 0 ? -MagnitudeToPlaces(-value, decimals, ending)
+                     : MagnitudeToPlaces(value, decimals, ending);
+}
+
 double DoubleToPlaces(double value, int decimals, TEnding ending) {
-    if (!std::isfinite(value) || std::abs(decimals) > kLargestScale)
-        return decimals < 0 && std::isfinite(value) ? 0 : value;
+    if (value == 0 || !std::isfinite(value)) return value;
+    if (std::abs(decimals) > kLargestScale) return decimals < 0 ? 0 : value;
     return static_cast<double>(ToPlaces(value, decimals, ending));
 }
 
@@ -83,12 +98,12 @@ Currency CurrencyToPlaces(Currency value, int decimals, TEnding ending) {
     const bool safe = value.Raw > -kSafeRaw && value.Raw < kSafeRaw;
     if (!safe) return Currency::FromDouble(ToPlaces(value.ToExtended(), decimals, ending));
     if (decimals >= Currency::kScale) return value;
-    if (decimals < -kSignificantDigits) return {};
+    if (decimals < -kLargestCurrencyScale) return {};
     int64_t unit = 1;
     for (int i = decimals; i < Currency::kScale; ++i) unit *= 10;
-    const int64_t whole = value.Raw / unit;
-    const long double fraction = static_cast<long double>(value.Raw % unit) / static_cast<long double>(unit);
-    return Currency::FromRaw(static_cast<int64_t>(ending(static_cast<long double>(whole), fraction)) * unit);
+    const int64_t whole = value.Raw / unit, rest = value.Raw % unit;
+    const bool up = ending == enHalfAwayFromZero && std::abs(rest) >= unit - std::abs(rest);
+    return Currency::FromRaw((whole + (up ? (rest < 0 ? -1 : 1) : 0)) * unit);
 }
 
 long double Part(Currency rate) {
@@ -103,19 +118,19 @@ Currency Quotient(long double dividend, long double divisor) {
 }  // namespace
 
 Currency Arredonda(Currency value, int decimals) {
-    return CurrencyToPlaces(value, decimals, HalfAwayFromZero);
+    return CurrencyToPlaces(value, decimals, enHalfAwayFromZero);
 }
 
 double ArredondaDouble(double value, int decimals) {
-    return DoubleToPlaces(value, decimals, HalfAwayFromZero);
+    return DoubleToPlaces(value, decimals, enHalfAwayFromZero);
 }
 
 Currency Trunca(Currency value, int decimals) {
-    return CurrencyToPlaces(value, decimals, TowardZero);
+    return CurrencyToPlaces(value, decimals, enTowardZero);
 }
 
 double TruncaDouble(double value, int decimals) {
-    return DoubleToPlaces(value, decimals, TowardZero);
+    return DoubleToPlaces(value, decimals, enTowardZero);
 }
 
 Currency ArredondaOuTrunca(Currency value, int decimals, bool round) {

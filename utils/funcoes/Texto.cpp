@@ -1,8 +1,10 @@
 #include "utils/funcoes/Texto.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <random>
+#include <string_view>
 
 #include "platform/rtl/CodePage.h"
 #include "platform/rtl/FormatSettings.h"
@@ -19,18 +21,27 @@ UnicodeString Repeated(const UnicodeString& text, int width, const UnicodeString
     return fill.repeated(std::max<qsizetype>(width - text.size(), 0));
 }
 
-QChar WithoutAccent(QChar c) {
-    constexpr QStringView kFrom = u"áéíóúàèìòùãõâêîôûçüÁÉÍÓÚÀÈÌÒÙÂÊÎÔÛÃÕÇÜ&";
-    constexpr QStringView kTo = u"aeiouaeiouaoaeioucuAEIOUAEIOUAEIOUAOCUe";
+// What each of the codes up to 255 becomes without its accent.
+constexpr std::array<char16_t, 256> PlainLetters() {
+    constexpr std::u16string_view kFrom = u"áéíóúàèìòùãõâêîôûçüÁÉÍÓÚÀÈÌÒÙÂÊÎÔÛÃÕÇÜ&";
+    constexpr std::u16string_view kTo = u"aeiouaeiouaoaeioucuAEIOUAEIOUAEIOUAOCUe";
     static_assert(kFrom.size() == kTo.size());
-    const qsizetype at = kFrom.indexOf(c);
-    return at < 0 ? c : kTo[at];
+    std::array<char16_t, 256> plain{};
+    for (char16_t code = 0; code < plain.size(); ++code) plain[code] = code;
+    for (size_t i = 0; i < kFrom.size(); ++i) plain[kFrom[i]] = kTo[i];
+    return plain;
+}
+
+QChar WithoutAccent(QChar c) {
+    static constexpr std::array<char16_t, 256> kPlain = PlainLetters();
+    return c.unicode() < kPlain.size() ? kPlain[c.unicode()] : c;
 }
 
 template <class Keep>
 UnicodeString Filtered(const UnicodeString& text, Keep keep) {
-    UnicodeString result;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(result), keep);
+    UnicodeString result(text.size(), Qt::Uninitialized);
+    const auto end = std::copy_if(text.cbegin(), text.cend(), result.begin(), keep);
+    result.truncate(end - result.begin());
     return result;
 }
 

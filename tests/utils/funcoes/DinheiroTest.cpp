@@ -82,6 +82,8 @@ TEST(Dinheiro, EqualsTheStepsBitForBit) {
 // Beside the examples of the manual.
 TEST(Dinheiro, KnowsItsLimits) {
     EXPECT_EQ(Arredonda(Money(1250), -2), Money(1300));
+    EXPECT_EQ(Arredonda(Money(99'000'000'000), -11), Money(100'000'000'000));
+    EXPECT_EQ(Arredonda(Money(99'000'000'000), -15), Money(0));
     EXPECT_EQ(Arredonda(Money(1.2345L), 6), Money(1.2345L));
     EXPECT_FALSE(IsDecimal(3));
     EXPECT_EQ(CalcPrecoVenda(Money(60), Money(50), Money(30), Money(20)), Money(0));
