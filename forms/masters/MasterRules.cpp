@@ -70,3 +70,10 @@ TOwnerUpdate OwnerUpdateAfter(const TClosing& closing) {
                          step == TOwnerUpdate::ReopenOwner;
     return {step, closing.OwnerIsView && !queried};
 }
+
+UnicodeString ListBehindText(const TClosing& closing, const UnicodeString& cause) {
+    const UnicodeString list = u"a lista não pôde ser atualizada: "_s + cause;
+    if (!closing.Confirmed) return u"A"_s + list.sliced(1);
+    const UnicodeString done = closing.Mode == kExcluir ? u"excluído"_s : u"salvo"_s;
+    return u"O registro foi "_s + done + u", mas "_s + list;
+}

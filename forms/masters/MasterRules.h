@@ -20,8 +20,8 @@ inline constexpr unsigned char kVisualizar = 4;  // only show the current record
 // True for the modes in which the user types (include and change).
 bool ModeEdits(unsigned char mode);
 
-// What the registration form's caption ends with: " [Incluindo]", " [Alterando]", " [Excluindo]", "
-// [Visualizando]"; empty for any other mode.
+// What the registration form's caption ends with: " [Incluindo]", " [Alterando]", " [Excluindo]" or
+// " [Visualizando]"; empty for any other mode.
 UnicodeString ModeSuffix(unsigned char mode);
 
 // What the view master knows when a registration form is asked for.
@@ -73,3 +73,6 @@ struct TOwnerUpdate {
 };
 
 TOwnerUpdate OwnerUpdateAfter(const TClosing& closing);
+
+// What the user reads when that failed for `cause`: what became of the record, which is safe, comes first.
+UnicodeString ListBehindText(const TClosing& closing, const UnicodeString& cause);

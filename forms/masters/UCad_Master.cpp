@@ -216,9 +216,10 @@ void TFrmCad_Master::FormClose(TComponent* Sender, TCloseAction& Action) {
     if (!FClose && FMainDataSet->State() != dsInactive) FMainDataSet->Cancel();
     try {
         UpdateOwner();
-    } catch (const Exception&) {
+    } catch (const EAbort&) {
+    } catch (const Exception& e) {
         // The record itself is safe; a view that cannot be read now must not keep the form open.
-        Application->HandleException(std::current_exception());
+        Application->MessageBox(ListBehindText(Closing(), e.Message), u"Aviso"_s, MB_ICONWARNING);
     }
 }
 
@@ -234,16 +235,20 @@ bool TFrmCad_Master::IsModified() const {
     return FMainDataSet->Modified();
 }
 
+TClosing TFrmCad_Master::Closing() const {
+    const TFrmViz_Master* view = OwnerView();
+    return {FOperation,
+            FClose,
+            SharesDataSet(),
+            view != nullptr,
+            view ? view->VisType() : vtFilter,
+            FLastID,
+            FMainDataSet->FindField(u"TF_DEL"_s) != nullptr};
+}
+
 void TFrmCad_Master::UpdateOwner() {
     TFrmViz_Master* view = OwnerView();
-    const TClosing closing{FOperation,
-                           FClose,
-                           SharesDataSet(),
-                           view != nullptr,
-                           view ? view->VisType() : vtFilter,
-                           FLastID,
-                           FMainDataSet->FindField(u"TF_DEL"_s) != nullptr};
-    const TOwnerUpdate update = OwnerUpdateAfter(closing);
+    const TOwnerUpdate update = OwnerUpdateAfter(Closing());
     BringUpToDate(update.Step, view);
     if (!view) return;
     TDataSet* shown = view->MainDS->DataSet();

@@ -127,6 +127,7 @@ class TFrmCad_Master : public TFrmBase {
     bool IsModified() const;
     TFrmViz_Master* OwnerView() const;
     bool SharesDataSet() const;
+    TClosing Closing() const;
     void UpdateOwner();
     void BringUpToDate(TOwnerUpdate::TStep Step, TFrmViz_Master* View);
     void FilterOwner(TFrmViz_Master& View);
