@@ -15,6 +15,14 @@ class TFrmPrincipal : public TFrmMain {
     void OpenClientes();
     void OpenMunicipios();
 
+    // Asks for a receipt, and waits for it.
+    void OpenRecibo();
+    // Asks for the settings of the connection. Answers whether new ones are in Config.ini.
+    bool OpenConexao();
+    // Opens the database that Config.ini names; while that fails, tells why and lets the user repair the
+    // settings. False when the user gives up.
+    bool Conecta();
+
     // Which rights the user holds in Clientes; all of them until set.
     TModuleInstance& Clientes() { return FClientes; }
 
@@ -25,4 +33,6 @@ class TFrmPrincipal : public TFrmMain {
     TDM_Comercial* FData;
     TModuleInstance FClientes;
     TModuleInstance FMunicipios;
+    TModuleInstance FRecibo;
+    TModuleInstance FConexao;
 };

@@ -4,6 +4,7 @@
 
 #include "demo/FrmClientes.h"
 #include "demo/FrmPrincipal.h"
+#include "demo/FrmRecibo.h"
 #include "forms/browse/UPesq_Master.h"
 #include "forms/browse/UPesquisa.h"
 #include "platform/data/DataSet.h"
@@ -78,15 +79,20 @@ class TTour {
     }
 
     void Fields() {
-        Application->OnModal = [this](TForm* form) {
-            Settle();
-            const UnicodeString path = JoinPath(FFolder, u"11-clientes-campos.png"_s);
-            form->Widget()->grab().save(path);
-            fprintf(stdout, "%s\n", qPrintable(path));
-            form->Close();
-        };
-        Clientes()->Campos1Click(nullptr);
-        Application->OnModal = nullptr;
+        ShootModal({u"11-clientes-campos"_s}, [this] { Clientes()->Campos1Click(nullptr); });
+    }
+
+    void Entries() {
+        ShootModal({u"21-configurar-conexao"_s}, [this] { FMain.OpenConexao(); });
+        Application->OnMessageBox = [](const TBox&) { return IDYES; };  // what was typed is given up
+        ShootModal(
+            {u"22-recibo"_s, u"23-recibo-procurar-cliente"_s, u"24-recibo-visualizar"_s},
+            [this] { FMain.OpenRecibo(); },
+            [](TForm* form) {
+                if (auto* receipt = dynamic_cast<TFrmRecibo*>(form)) FillReceipt(*receipt);
+                if (auto* lookup = dynamic_cast<TFrmPesq_Master*>(form)) lookup->FinishSearch();
+            });
+        Application->OnMessageBox = nullptr;
     }
 
     void TownLookup() {
@@ -158,6 +164,36 @@ class TTour {
         }
     }
 
+    // Opens modal forms and ends them: each takes the next name. `act` brings a form into the state to look
+    // at.
+    void ShootModal(QStringList names, const std::function<void()>& open,
+                    const std::function<void(TForm*)>& act = nullptr) {
+        Application->OnModal = [&](TForm* form) {
+            const UnicodeString path = JoinPath(FFolder, names.takeFirst() + u".png"_s);
+            if (act) act(form);
+            Settle();
+            form->Widget()->grab().save(path);
+            fprintf(stdout, "%s\n", qPrintable(path));
+            form->Close();
+        };
+        open();
+        Application->OnModal = nullptr;
+    }
+
+    static void FillReceipt(TFrmRecibo& receipt) {
+        dynamic_cast<TEdit*>(receipt.FindComponent(u"EdtPagador"_s))->SetText(u"jo"_s);
+        dynamic_cast<TButton*>(receipt.FindComponent(u"BtnPagador"_s))->Click();
+        const std::pair<const char16_t*, const char16_t*> texts[] = {
+            {u"EdtPagador", u"João Antônio de Souza & Cia. Ltda."},
+            {u"EdtValor", u"127.654,32"},
+            {u"EdtReferente", u"parcela 3 de 12 da venda de materiais de construção, nota fiscal 4.512"},
+            {u"EdtCidade", u"São José dos Campos"}};
+        for (const auto& [name, text] : texts)
+            dynamic_cast<TEdit*>(receipt.FindComponent(UnicodeString::fromUtf16(name)))
+                ->SetText(UnicodeString::fromUtf16(text));
+        receipt.BtnConfirmarClick(nullptr);
+    }
+
     void CloseChild() {
         Clientes()->ChildForm()->Close();
         Settle();
@@ -182,6 +218,7 @@ int WriteTour(TFrmPrincipal& main, const UnicodeString& folder, const QSize& siz
     tour.Customers();
     tour.Filters();
     tour.Fields();
+    tour.Entries();
     tour.Registration();
     tour.TownLookup();
     tour.Towns();

@@ -1,5 +1,6 @@
-// Comercial: the sample host of Fichário. Where Config.ini has a section DATABASE it connects to that server;
-// else the embedded engine opens its database in the user's data folder, which is created on first use.
+// Comercial: the sample host of Fichário. Where Config.ini has a section DATABASE it connects to that server,
+// and lets the user repair the settings while that fails; else the embedded engine opens its database in the
+// user's data folder, which is created on first use.
 //
 //     comercial                      opens the main window
 //     comercial --banco FILE         another database file, by the embedded engine
@@ -58,9 +59,8 @@ void PrepareDatabase(const UnicodeString& path) {
 
 int RunHost(const TOptions& options) {
     auto* data = new TDM_Comercial(Application);
-    if (options.Database.isEmpty() && HasConnection()) {
-        data->OpenConfigured();
-    } else {
+    const bool configured = options.Database.isEmpty() && HasConnection();
+    if (!configured) {
         const UnicodeString path = options.Database.isEmpty() ? CaminhoDoBanco() : options.Database;
         PrepareDatabase(path);
         data->OpenDatabase(path);
@@ -68,6 +68,7 @@ int RunHost(const TOptions& options) {
     auto* main = NewForm<TFrmPrincipal>(Application, data);
     main->SetIcon(LoadIconResource(u":/fichario"_s, u"FICHARIO"_s));
     if (options.ReadOnly) main->Clientes().SetRights({});
+    if (configured && !main->Conecta()) return 1;
     if (!options.TourFolder.isEmpty()) return WriteTour(*main, options.TourFolder, options.TourSize);
     return Application->Run();
 }

@@ -80,11 +80,16 @@ class Telas : public testing::Test {
 TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     ExpectUsable(Main);
     for (TFrmBase* form : Main->OpenForms()) ExpectUsable(form);
-    ExpectModal([](TForm* form) {
+    const auto walk = [](TForm* form) {
         ExpectUsable(form);
         form->Close();
-    });
+    };
+    ExpectModal(walk);
     Clientes->Campos1->Click();
+    ExpectModal(walk);
+    Main->OpenRecibo();
+    ExpectModal(walk);
+    Main->OpenConexao();
     Clientes->Filtros1->Click();
     ExpectUsable(Clientes->ChildForm());
     Press(VK_ESCAPE);
