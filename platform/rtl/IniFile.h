@@ -8,7 +8,8 @@
 //         ini.WriteInteger(u"DATABASE", u"Port", 3050);
 //     }
 //
-// Files are in the system code page, or in UTF-8 when they begin with its mark. Sections and keys compare
+// Files are in the system code page, or in UTF-8 when they begin with its mark; a value with a character that
+// the code page lacks moves its file to UTF-8. Sections and keys compare
 // case apart. Comments, order and lines that are no settings stay as they are, byte for byte; a file of
 // garbage has no settings and is no error. Blanks around a value and one pair of double quotes around it do
 // not belong to it; backslashes, semicolons and commas do. All objects on one path share what was read, and

@@ -122,16 +122,17 @@ TIniText::TLine TIniText::Parse(const QByteArray& raw) const {
     return line;
 }
 
-TIniText::TLine TIniText::Make(const UnicodeString& text) const {
-    return Parse(Encode(text) + FLineEnd);
+// A text that the code page cannot hold moves the whole file to UTF-8, so that no character is lost.
+TIniText::TLine TIniText::Make(const UnicodeString& text) {
+    if (!FUtf8 && !ToAnsiExact(text)) {
+        for (TLine& line : FLines) line.Raw = Decode(line.Raw).toUtf8();
+        FUtf8 = true;
+    }
+    return Parse((FUtf8 ? text.toUtf8() : ToAnsi(text)) + FLineEnd);
 }
 
 UnicodeString TIniText::Decode(const QByteArray& raw) const {
     return FUtf8 ? UnicodeString::fromUtf8(raw) : FromAnsi(raw);
-}
-
-QByteArray TIniText::Encode(const UnicodeString& text) const {
-    return FUtf8 ? text.toUtf8() : ToAnsi(text);
 }
 
 std::vector<TIniText::TRange> TIniText::Ranges(QStringView section) const {

@@ -4,7 +4,7 @@
 //     text.SetValue(u"A"_s, u"x"_s, u"2"_s);
 //     text.ToBytes();                              // "; note\r\n[A]\r\nx=2\r\n"
 //
-// A line that is not edited keeps its bytes, whatever they are.
+// A line that is not edited keeps its bytes, whatever they are, as long as the text keeps its encoding.
 #pragma once
 #include <optional>
 #include <QByteArray>
@@ -47,9 +47,8 @@ class TIniText {
     };
 
     TLine Parse(const QByteArray& raw) const;
-    TLine Make(const UnicodeString& text) const;
+    TLine Make(const UnicodeString& text);
     UnicodeString Decode(const QByteArray& raw) const;
-    QByteArray Encode(const UnicodeString& text) const;
 
     std::vector<TRange> Ranges(QStringView section) const;
     std::optional<size_t> Find(QStringView section, QStringView key) const;

@@ -77,6 +77,9 @@ TEST_F(IniFile, Utf8WithItsMark) {
     EXPECT_EQ(ini.ReadString(u"A", u"x", {}), u"ç€"_s);
     ini.WriteString(u"A"_s, u"y"_s, u"日"_s);
     EXPECT_EQ(OnDisk(), "\xEF\xBB\xBF[A]\nx=\xC3\xA7\xE2\x82\xAC\ny=\xE6\x97\xA5\n"_ba);
+    Put("[A]\nx=\xE7\n");  // moves to UTF-8 for what the code page lacks
+    ini.WriteString(u"A"_s, u"y"_s, u"日"_s);
+    EXPECT_EQ(OnDisk(), "\xEF\xBB\xBF[A]\nx=\xC3\xA7\ny=\xE6\x97\xA5\n"_ba);
 }
 
 TEST_F(IniFile, GarbageHasNoSettingsAndIsKept) {
