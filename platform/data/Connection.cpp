@@ -29,6 +29,8 @@ AttachSettings SettingsOf(const TStrings& params) {
         isSaid(u"Protocol", u"Local") || (value(u"Protocol").isEmpty() && settings.Server.isEmpty());
     if (const int size = value(u"PageSize").toInt()) settings.PageSize = size;
     if (const int seconds = value(u"ConnectTimeout").toInt(); seconds > 0) settings.ConnectTimeout = seconds;
+    if (const UnicodeString seconds = value(u"StatementTimeout"); !seconds.isEmpty())
+        settings.StatementTimeout = seconds.toInt();
     settings.ForcedWrites = !isSaid(u"ForcedWrites", u"False");
     return settings;
 }

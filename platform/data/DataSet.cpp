@@ -64,6 +64,7 @@ void TDataSet::Close() {
 
 void TDataSet::SetRows(std::unique_ptr<fichario::RowStore> rows) {
     FRows = std::move(rows);
+    ++FResult;
     FBlobs.clear();
 }
 
@@ -82,6 +83,10 @@ void TDataSet::Call(const TEvent& event) {
 }
 
 // ---- controls ----
+
+bool TDataSet::Heard() const {
+    return !FEvents->Sources.Empty();
+}
 
 void TDataSet::DisableControls() {
     if (FDisabled++ == 0) FActiveBefore = Active();

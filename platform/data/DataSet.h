@@ -11,6 +11,7 @@
 #pragma once
 #include <functional>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 #include "platform/data/DataTypes.h"
@@ -27,6 +28,9 @@ class DataEvents;
 class EditBuffer;
 class RowMatcher;
 class RowStore;
+class TogetherSave;
+struct TypedRecord;
+struct WriteColumn;
 }  // namespace fichario
 
 class TDataSet : public TComponent {
@@ -81,6 +85,13 @@ class TDataSet : public TComponent {
     int FetchMore(int rows);
     // The bytes that the rows here hold.
     size_t MemoryUsed() const;
+    // Brings all rows and writes them into a file, in place of an old one, in the format that RowsFile.h
+    // tells. A pending edit is left alone and not in it. EDatabaseError when not active, EInOutError.
+    void SaveToFile(const UnicodeString& path);
+
+    // A call to a server is under way, of whichever dataset, and the program paints meanwhile: rows must not
+    // be read until it ends.
+    static bool Busy();
 
     // ---- editing ----
     void Append();  // a new record at the end
@@ -128,8 +139,9 @@ class TDataSet : public TComponent {
     virtual void DoClose() = 0;          // drops the result; never throws
     virtual bool DoFetch(int rows) = 0;  // appends up to `rows` to Rows(); false at the end of the data
     virtual int DoCount() = 0;           // counts on the server
-    virtual void DoPost() = 0;           // writes the record being edited and renews its row
-    virtual void DoDelete() = 0;         // deletes the current record on the server
+    virtual void DoPost() = 0;  // writes the record being edited; renews its row or marks it outdated
+    virtual void DoRenew(int row) const = 0;  // reads the record of an outdated row again; never throws
+    virtual void DoDelete() = 0;              // deletes the current record on the server
     virtual QByteArray DoReadBlob(int64_t id) const = 0;
 
     // Takes over what the statement's columns are: keeps the fields whose name and class match, makes the
@@ -147,7 +159,14 @@ class TDataSet : public TComponent {
     // before.
     bool IsAssigned(int column) const;
     bool IsChanged(int column) const;
+    // Reads an outdated row again first. EUnreadableText with the field's label.
     Variant RowValue(int row, int column) const;
+    // The same, but a text that cannot be read gives its bytes, a memo that cannot null.
+    Variant RowValueOrBytes(int row, int column) const;
+    // The record being edited as it may be stored already (EditBuffer.h).
+    std::optional<std::vector<fichario::WriteColumn>>& Doubtful() const;
+    // Whether there are controls that read a record as soon as it changes.
+    bool Heard() const;
     void FetchAll();
     void CheckActive() const;
     // Closes while the kind can still act: the destructor of a kind calls it first.
@@ -158,12 +177,14 @@ class TDataSet : public TComponent {
     friend class TDataSource;
     friend class TRowReading;
     friend class fichario::RowMatcher;
+    friend class fichario::TogetherSave;
     using TEvent = std::function<void(TDataSet*)>;
 
     // Moving (DataSetMove.cpp)
     void Settle(int row);
     void Scrolled();
     void FetchUntil(int row);
+    void RenewRows() const;
     void CheckFetched(bool more);
     std::vector<int> KeyColumns() const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
@@ -174,6 +195,8 @@ class TDataSet : public TComponent {
     void DropInserted();
     void EndEditing();
     void CheckEditing() const;
+    fichario::TypedRecord Typed() const;
+    void TypeAgain(const fichario::TypedRecord& typed);
     bool Editing() const { return FState == dsEdit || FState == dsInsert; }
 
     // Fields (DataSetFields.cpp)
@@ -181,9 +204,10 @@ class TDataSet : public TComponent {
     void RemoveField(TField* field);
     TField* TakeField(const UnicodeString& name, TFieldType type);
     void DropUnmatched(const std::vector<TField*>& matched);
+    Variant BlobValue(int64_t id, int column) const;
     Variant ColumnValue(const TField* field) const;
     Variant OldColumnValue(const TField* field) const;
-    void StoreColumn(TField* field, const Variant& value);
+    void StoreColumn(TField* field, Variant value);
     void FieldsChanged();
     void AskFocus(TField* field);
 
@@ -196,6 +220,7 @@ class TDataSet : public TComponent {
     std::unique_ptr<fichario::RowStore> FRows;
     std::unique_ptr<fichario::EditBuffer> FEdits;
     std::shared_ptr<fichario::DataEvents> FEvents;  // the data sources that hear of changes
+    int FResult = 0;                                // counts the results that were taken over
     int FRow = -1;                                  // current row, -1: none
     int FReadRow = -1;    // the row that fields read instead (TRowReading), -1: none
     int FRowBefore = -1;  // current row before the insert began

@@ -24,10 +24,15 @@ void TDataSet::UpdateRecord() {
 
 bool TDataSet::Modified() const {
     if (!Editing()) return false;
-    for (const auto& edit : FEdits->Values()) {
-        if (IsChanged(edit.first)) return true;
+    if (FEdits->Doubtful) return true;  // what is stored may not be what is here
+    for (int column = 0; column < FEdits->End(); ++column) {
+        if (IsChanged(column)) return true;
     }
     return false;
+}
+
+std::optional<std::vector<fichario::WriteColumn>>& TDataSet::Doubtful() const {
+    return FEdits->Doubtful;
 }
 
 // ---- beginning ----
@@ -110,6 +115,31 @@ void TDataSet::EndEditing() {
     FBlobs.clear();
     SetState(dsBrowse);
     if (auto* events = Events()) events->DataSetChanged();
+}
+
+// ---- a post that is undone ----
+
+fichario::TypedRecord TDataSet::Typed() const {
+    if (!Editing()) return {};
+    fichario::TypedRecord typed{FState, FRow, FRowBefore, FResult, *FEdits, {}};
+    for (int i = 0; i < FieldCount(); ++i) typed.Before.push_back(FRows->ValueOrBytes(FRow, i));
+    return typed;
+}
+
+// The record is in edit again just as it was, without asking anybody. A host that has brought another result
+// meanwhile types for itself.
+void TDataSet::TypeAgain(const fichario::TypedRecord& typed) {
+    if (Editing() || typed.State == dsBrowse || typed.Result != FResult || typed.Row >= RowCount()) return;
+    FRows->SetValues(typed.Row, typed.Before);
+    FRow = typed.Row;
+    FRowBefore = typed.RowBefore;
+    *FEdits = typed.Edits;
+    FState = typed.State;
+    FBof = FEof = false;
+    if (auto* events = Events()) {
+        events->EditingChanged();
+        events->DataSetChanged();
+    }
 }
 
 void TDataSet::Delete() {

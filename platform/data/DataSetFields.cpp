@@ -114,24 +114,41 @@ void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDes
 // ---- values ----
 
 Variant TDataSet::RowValue(int row, int column) const {
-    Variant value = FRows->Value(row, column);
-    const TFieldType type = FieldOfColumn(column)->DataType();
-    if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
+    if (FRows->IsOutdated(row)) DoRenew(row);
+    try {
+        if (!FRows->Layout().IsBlob(column)) return FRows->Value(row, column);
+        const Variant id = FRows->Value(row, column);
+        return id.IsNull() ? id : BlobValue(id.ToInt64(), column);
+    } catch (const EUnreadableText&) {
+        throw EUnreadableText(FieldOfColumn(column)->DisplayLabel());
+    }
+}
 
-    const int64_t id = value.ToInt64();
+Variant TDataSet::RowValueOrBytes(int row, int column) const {
+    try {
+        return RowValue(row, column);
+    } catch (const EUnreadableText&) {
+        return FRows->Layout().IsBlob(column) ? Variant::Null() : FRows->ValueOrBytes(row, column);
+    }
+}
+
+Variant TDataSet::BlobValue(int64_t id, int column) const {
     auto known = FBlobs.find(id);
     if (known == FBlobs.end()) {
         if (FBlobs.size() >= kBlobsKept) FBlobs.clear();
         known = FBlobs.emplace(id, DoReadBlob(id)).first;
     }
-    if (type == ftBlob) return known->second;
-    return fichario::DecodeText(FRows->Layout().Encoding(column), known->second);
+    if (FRows->Layout().Type(column) == ftBlob) return known->second;
+    std::optional<UnicodeString> text =
+        fichario::DecodeExact(FRows->Layout().Encoding(column), known->second);
+    if (!text) throw EUnreadableText();
+    return *std::move(text);
 }
 
 Variant TDataSet::ColumnValue(const TField* field) const {
     const int row = FReadRow >= 0 ? FReadRow : FRow;
     if (row < 0 || row >= RowCount() || field->FColumn < 0) return Variant::Null();
-    return row == FRow ? EditedValue(field->FColumn) : RowValue(row, field->FColumn);
+    return row == FRow && Editing() ? EditedValue(field->FColumn) : RowValue(row, field->FColumn);
 }
 
 Variant TDataSet::OldColumnValue(const TField* field) const {
@@ -152,14 +169,17 @@ bool TDataSet::IsChanged(int column) const {
     const Variant* edited = FEdits->Find(column);
     if (!edited) return false;
     const Variant* before = FEdits->Default(column);
-    return !(*edited == (before ? *before : RowValue(FRow, column)));
+    try {
+        return !(*edited == (before ? *before : RowValue(FRow, column)));
+    } catch (const EUnreadableText&) {
+        return true;
+    }
 }
 
 // Moments are kept as exactly as the server keeps them, so that the same moment typed again is no change.
-void TDataSet::StoreColumn(TField* field, const Variant& value) {
-    const bool moment = value.Kind() == vkDateTime;
-    FEdits->Set(field->FColumn,
-                moment ? Variant(fichario::FromWire(fichario::ToWire(value.ToDateTime()))) : value);
+void TDataSet::StoreColumn(TField* field, Variant value) {
+    if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
+    FEdits->Set(field->FColumn, std::move(value));
     if (field->OnChange) field->OnChange(field);
     if (auto* events = Events()) events->RecordChanged(field);
 }

@@ -4,6 +4,7 @@
 #include "platform/data/DataEvents.h"
 #include "platform/data/DataSet.h"
 #include "platform/data/Field.h"
+#include "platform/data/firebird/ClientCall.h"
 #include "platform/data/firebird/RowStore.h"
 #include "platform/data/Locate.h"
 
@@ -23,6 +24,10 @@ int BatchFor(int loaded) {
 
 // ---- fetching ----
 
+bool TDataSet::Busy() {
+    return fichario::ClientCallRunning();
+}
+
 int TDataSet::RowCount() const {
     return FRows->Count();
 }
@@ -39,6 +44,7 @@ int TDataSet::FetchMore(int rows) {
     if (FAllFetched || rows <= 0) return 0;
     const int before = RowCount();
     FAllFetched = !DoFetch(rows);
+    if (FRow >= RowCount()) Settle(FRow);  // the rows were read anew and others deleted some
     const int arrived = RowCount() - before;
     if (auto* events = Events(); events && arrived > 0) events->RowsArrived();
     return arrived;
@@ -50,6 +56,13 @@ void TDataSet::FetchUntil(int row) {
 
 void TDataSet::FetchAll() {
     FetchMore(std::numeric_limits<int>::max());
+}
+
+// Brings the rows here up to date that were posted unheard.
+void TDataSet::RenewRows() const {
+    for (int row = 0; row < RowCount(); ++row) {
+        if (FRows->IsOutdated(row)) DoRenew(row);
+    }
 }
 
 int TDataSet::RecordCount() {
@@ -121,14 +134,17 @@ bool TDataSet::Locate(const UnicodeString& keyFields, const Variant& values, TLo
     CheckBrowseMode();
     const auto matcher = fichario::RowMatcher::Make(*this, FRows->Layout(), keyFields, values, options);
     if (!matcher) return false;
-    for (int row = 0;; ++row) {
-        FetchUntil(row);
-        if (row >= RowCount()) return false;
-        if (!matcher->Matches(*this, *FRows, row)) continue;
-        Settle(row);
-        Scrolled();
-        return true;
+    RenewRows();
+    int found = matcher->Find(*this, *FRows, 0);
+    while (found < 0 && !FAllFetched) {
+        const int searched = RowCount();
+        FetchUntil(searched);
+        found = matcher->Find(*this, *FRows, searched);
     }
+    if (found < 0) return false;
+    Settle(found);
+    Scrolled();
+    return true;
 }
 
 // ---- finding a record again ----
@@ -149,7 +165,7 @@ int TDataSet::FindAgain(const std::vector<Variant>& key, int near, int loaded) {
     const auto matches = [&](int row) {
         if (row < 0 || row >= RowCount()) return false;
         for (size_t i = 0; i < columns.size(); ++i) {
-            if (!(FRows->Value(row, columns[i]) == key[i])) return false;
+            if (!(FRows->ValueOrBytes(row, columns[i]) == key[i])) return false;
         }
         return true;
     };
@@ -165,7 +181,7 @@ void TDataSet::Reload() {
     const int row = FRow, loaded = RowCount();
     std::vector<Variant> key;
     if (row >= 0) {
-        for (const int column : KeyColumns()) key.push_back(FRows->Value(row, column));
+        for (const int column : KeyColumns()) key.push_back(FRows->ValueOrBytes(row, column));
     }
     FAllFetched = !DoOpen();
     Settle(row < 0 ? 0 : FindAgain(key, row, loaded));

@@ -21,7 +21,10 @@ void TDataSource::SetDataSet(TDataSet* dataSet) {
     if (dataSet == FDataSet) return;
     if (FDataSet) FDataSet->FEvents->Sources.Remove(this);
     FDataSet = dataSet;
-    if (FDataSet) FDataSet->FEvents->Sources.Add(this);
+    if (FDataSet) {
+        FDataSet->RenewRows();
+        FDataSet->FEvents->Sources.Add(this);
+    }
     fichario::DataEvents::SourceChanged(*this);
 }
 

@@ -1,32 +1,57 @@
 // The values set so far in the record being edited, by column.
 #pragma once
-#include <map>
-#include "platform/rtl/Variant.h"
+#include <optional>
+#include <vector>
+#include "platform/data/DataTypes.h"
+#include "platform/data/firebird/WriteColumn.h"
 
 namespace fichario {
 
 class EditBuffer {
   public:
+    using Values = std::vector<std::optional<Variant>>;
+
     void Clear() {
         FValues.clear();
         FDefaults.clear();
+        Doubtful.reset();
     }
 
     // What has been set until now are a new record's defaults: they are written but count as no change.
     void TakeDefaults() { FDefaults = FValues; }
 
+    // The record as it was written when the connection was lost during its commit: it may be stored so.
+    std::optional<std::vector<WriteColumn>> Doubtful;
+
+    // Null when the column has not been set.
     const Variant* Find(int column) const { return Find(FValues, column); }
     const Variant* Default(int column) const { return Find(FDefaults, column); }
-    void Set(int column, const Variant& value) { FValues[column] = value; }
-    const std::map<int, Variant>& Values() const { return FValues; }
+    void Set(int column, Variant value) {
+        const auto index = static_cast<size_t>(column);
+        if (index >= FValues.size()) FValues.resize(index + kAtOnce);
+        FValues[index] = std::move(value);
+    }
+    // All columns up to this one at most have been set.
+    int End() const { return static_cast<int>(FValues.size()); }
 
   private:
-    static const Variant* Find(const std::map<int, Variant>& values, int column) {
-        const auto found = values.find(column);
-        return found == values.end() ? nullptr : &found->second;
+    static constexpr size_t kAtOnce = 16;
+
+    static const Variant* Find(const Values& values, int column) {
+        const auto index = static_cast<size_t>(column);
+        return index < values.size() && values[index] ? &*values[index] : nullptr;
     }
 
-    std::map<int, Variant> FValues, FDefaults;
+    Values FValues, FDefaults;
+};
+
+// A record that is being typed, kept while its post may still be undone with its transaction.
+struct TypedRecord {
+    TDataSetState State = dsBrowse;  // dsEdit or dsInsert; else nothing is being typed
+    int Row = -1, RowBefore = -1;
+    int Result = 0;  // which of the dataset's results the row is of
+    EditBuffer Edits;
+    std::vector<Variant> Before;  // the row without the edits
 };
 
 }  // namespace fichario

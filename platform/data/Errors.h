@@ -18,6 +18,13 @@ class EDatabaseError : public Exception {
     using Exception::Exception;
 };
 
+// A stored text whose bytes form no characters. `Message` names the field.
+class EUnreadableText : public EDatabaseError {
+  public:
+    // `label` empty: the field is not known.
+    explicit EUnreadableText(const UnicodeString& label = {});
+};
+
 // A failure that the database client or server reported. `Message` is a Portuguese sentence that says what to
 // do; what has no sentence of its own shows the server's text.
 class EFDError : public EDatabaseError {

@@ -1,5 +1,6 @@
 #include "platform/data/Locate.h"
 
+#include <future>
 #include <QStringList>
 #include "platform/data/DataSet.h"
 #include "platform/data/Field.h"
@@ -109,12 +110,13 @@ bool RowMatcher::MatchesKey(const Key& key, const TDataSet& dataSet, const RowSt
     const bool null = rows.Layout().IsNull(packed, key.Column);
     const bool wantsNull = key.Compare == Way::Value && key.Value.IsNull();
     if (null || wantsNull) return null && wantsNull;
-    switch (key.Compare) {
-        case Way::Bytes: return MatchesBytes(key, rows.Layout().Text(packed, key.Column));
-        case Way::Text: return MatchesText(key, key.Field->TextOf(dataSet.RowValue(row, key.Column)));
-        case Way::Value: return dataSet.RowValue(row, key.Column) == key.Value;
+    if (key.Compare == Way::Bytes) return MatchesBytes(key, rows.Layout().Text(packed, key.Column));
+    try {
+        const Variant value = dataSet.RowValue(row, key.Column);
+        return key.Compare == Way::Text ? MatchesText(key, key.Field->TextOf(value)) : value == key.Value;
+    } catch (const EUnreadableText&) {
+        return false;
     }
-    return false;
 }
 
 bool RowMatcher::Matches(const TDataSet& dataSet, const RowStore& rows, int row) const {
@@ -122,6 +124,45 @@ bool RowMatcher::Matches(const TDataSet& dataSet, const RowStore& rows, int row)
         if (!MatchesKey(key, dataSet, rows, row)) return false;
     }
     return true;
+}
+
+// One text without a value of nothing, the usual case, over rows that memory is asked for in time. `stop`
+// ends it early.
+int RowMatcher::ScanBytes(const Key& key, const RowStore& rows, int from, int to,
+                          const std::atomic<bool>& stop) const {
+    constexpr int kAhead = 16;
+    constexpr int kLook = 4096;
+    for (int row = from; row < to; ++row) {
+        if (row % kLook == 0 && stop.load(std::memory_order_relaxed)) return -1;
+        if (row + kAhead < to) __builtin_prefetch(rows.Row(row + kAhead));
+        if (MatchesBytes(key, rows.Layout().Text(rows.Row(row), key.Column))) return row;
+    }
+    return -1;
+}
+
+// Many rows are looked through from two places at once: one core does not get them out of memory in the time
+// that a key stroke may take.
+int RowMatcher::FindBytes(const Key& key, const RowStore& rows, int from) const {
+    constexpr int kWorthTwo = 400'000;
+    const int count = rows.Count();
+    std::atomic<bool> stop = false;
+    if (count - from < kWorthTwo) return ScanBytes(key, rows, from, count, stop);
+    const int middle = from + (count - from) / 2;
+    auto behind = std::async(std::launch::async, [&] { return ScanBytes(key, rows, middle, count, stop); });
+    const int found = ScanBytes(key, rows, from, middle, std::atomic<bool>(false));
+    stop = found >= 0;
+    const int foundBehind = behind.get();
+    return found >= 0 ? found : foundBehind;
+}
+
+int RowMatcher::Find(const TDataSet& dataSet, const RowStore& rows, int from) const {
+    const Key& first = FKeys.front();
+    if (FKeys.size() == 1 && first.Compare == Way::Bytes && !first.Bytes.isEmpty())
+        return FindBytes(first, rows, from);
+    for (int row = from; row < rows.Count(); ++row) {
+        if (Matches(dataSet, rows, row)) return row;
+    }
+    return -1;
 }
 
 }  // namespace fichario

@@ -2,6 +2,7 @@
 // decoded.
 #pragma once
 #include <array>
+#include <atomic>
 #include <optional>
 #include <vector>
 #include "platform/data/DataTypes.h"
@@ -20,7 +21,8 @@ class RowMatcher {
                                           const UnicodeString& keyFields, const Variant& values,
                                           TLocateOptions options);
 
-    bool Matches(const TDataSet& dataSet, const RowStore& rows, int row) const;
+    // The first matching row from `from` on among those that are here; -1 when none is.
+    int Find(const TDataSet& dataSet, const RowStore& rows, int from) const;
 
   private:
     using FoldTable = std::array<uint8_t, 256>;
@@ -40,7 +42,11 @@ class RowMatcher {
     bool AddText(Key key, const RowLayout& layout, const UnicodeString& text);
     bool MatchesBytes(const Key& key, std::span<const uint8_t> text) const;
     bool MatchesText(const Key& key, const UnicodeString& text) const;
+    int ScanBytes(const Key& key, const RowStore& rows, int from, int to,
+                  const std::atomic<bool>& stop) const;
+    int FindBytes(const Key& key, const RowStore& rows, int from) const;
     bool MatchesKey(const Key& key, const TDataSet& dataSet, const RowStore& rows, int row) const;
+    bool Matches(const TDataSet& dataSet, const RowStore& rows, int row) const;
 
     std::vector<Key> FKeys;
     const FoldTable* FFold;

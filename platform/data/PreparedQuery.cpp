@@ -2,7 +2,12 @@
 
 #include <cmath>
 
+#include "platform/data/firebird/CharacterSets.h"
+#include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/Metadata.h"
+#include "platform/data/firebird/SqlRunner.h"
+#include "platform/data/firebird/WideText.h"
+#include "platform/data/Searchable.h"
 
 namespace fichario {
 
@@ -23,25 +28,66 @@ double LargestOf(const ColumnInfo& column) {
 
 PreparedQuery::PreparedQuery(std::shared_ptr<Attachment> attachment, const UnicodeString& sql)
     : FAttachment(std::move(attachment)),
-      FSql(ScanParams(sql)),
+      FSql(ScanParams(
+          Searchable(sql, [&](QStringView text) { return FirstForeign(FAttachment->Encoding(), text); }))),
       FShape(FSql.Text),
-      FStatement(FAttachment->Prepare(FSql.Text)) {
+      FStatement(First(sql)) {
     Learn();
+}
+
+// A literal is brought into its column's set while the statement is prepared.
+StatementLease PreparedQuery::First(const UnicodeString& sql) {
+    try {
+        return FAttachment->Prepare(FSql.Text);
+    } catch (const EFDError& error) {
+        if (!error.Has(kTransliteration)) throw;
+        const auto doubtful = [&](QStringView text) {
+            return FirstDoubtful(FAttachment->CharacterSet(), text);
+        };
+        FSql = ScanParams(Searchable(sql, doubtful));
+        FShape = SqlShape(FSql.Text);
+        return FAttachment->Prepare(FSql.Text);
+    }
 }
 
 void PreparedQuery::Learn() {
     if (FShape.IsJoin()) FStatement->DescribeAliases();
     FColumns = FStatement->Columns();
+    FLayout = RowLayout(FColumns);
     FInputs = FStatement->Inputs();
     FHasCursor = FStatement->HasCursor();
 }
 
 StatementLease PreparedQuery::Take() {
-    if (!FStatement) {
+    if (!FStatement && FWide) {
+        PrepareWide();
+    } else if (!FStatement) {
         FStatement = FAttachment->Prepare(FSql.Text);
         Learn();
     }
     return std::move(FStatement);
+}
+
+void PreparedQuery::PrepareWide() {
+    FStatement = FAttachment->Prepare(FShape.AroundText(WideItems(FNarrow)));
+    FColumns = WideColumns(FNarrow, FStatement->Columns());
+    FLayout = RowLayout(FColumns);
+}
+
+bool PreparedQuery::Widen() {
+    if (FWide || !FHasCursor || !FShape.IsSelect()) return false;
+    FNarrow = FColumns;
+    try {
+        PrepareWide();
+    } catch (const EFDError&) {
+        return false;
+    }
+    return FWide = true;
+}
+
+RowStore PreparedQuery::Read(const UnicodeString& sql, const std::vector<InputValue>& values) const {
+    if (!FWide) return ReadRows(*FAttachment, sql, values);
+    return ReadRows(*FAttachment, SqlShape(sql).AroundText(WideItems(FNarrow)), values, &FNarrow);
 }
 
 bool PreparedQuery::IsOf(const ColumnInfo& column, const UnicodeString& table) const {

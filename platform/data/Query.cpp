@@ -1,14 +1,17 @@
 #include "platform/data/Query.h"
 
+#include <algorithm>
 #include <limits>
 #include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
+#include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/firebird/SqlRunner.h"
 #include "platform/data/PreparedQuery.h"
+#include "platform/data/UpdateLog.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace fichario;
@@ -16,6 +19,17 @@ using namespace fichario;
 namespace {
 
 constexpr int kFirstPage = 64;
+
+// Whether a search holds what some column's set lacks: no record can hold it either.
+bool SeeksForeign(const Attachment& attachment, const UnicodeString& sql,
+                  const std::vector<InputValue>& values) {
+    const auto foreign = [&](const UnicodeString& text) {
+        return !FirstDoubtful(attachment.CharacterSet(), text).isEmpty();
+    };
+    return foreign(sql) || std::any_of(values.begin(), values.end(), [&](const InputValue& input) {
+               return input.Value.Kind() == vkText && foreign(input.Value.ToText());
+           });
+}
 
 }  // namespace
 
@@ -38,8 +52,10 @@ void TFDCustomQuery::SQLChanged() {
 PreparedQuery& TFDCustomQuery::RequirePrepared() {
     const std::shared_ptr<Attachment> attachment = RequireConnection().RequireAttachment();
     if (!FPrepared || FPrepared->On() != attachment) {
+        const bool wide = FPrepared && FPrepared->IsWide();
         FPrepared.reset();
         FPrepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
+        if (wide) FPrepared->Widen();
     }
     return *FPrepared;
 }
@@ -72,20 +88,27 @@ std::vector<InputValue> TFDCustomQuery::Inputs() const {
 
 // ---- reading ----
 
-// Runs the statement and brings its first rows. False: those were all.
-bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<Cursor>& cursor) {
+// Runs the statement and brings its first rows. False: those were all. A stored character that the
+// connection's set lacks fails the row it is in: then all texts come as UTF-8.
+bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<Cursor>& cursor, int count) {
     const std::shared_ptr<Attachment>& attachment = FPrepared->On();
-    const auto read = [&](std::shared_ptr<Transaction> transaction, int count) {
+    const auto read = [&](std::shared_ptr<Transaction> transaction, int wanted) {
         StatementLease statement = FPrepared->Take();
-        rows = std::make_unique<RowStore>(RowLayout(FPrepared->Columns()));
+        rows = std::make_unique<RowStore>(FPrepared->Layout());
         InputMessage input(*attachment, FPrepared->Inputs(), Inputs());
         if (input.Misfit()) return;
-        cursor = std::make_unique<Cursor>(attachment, std::move(statement), std::move(transaction), input);
-        cursor->Fetch(*rows, count);
+        cursor = std::make_unique<Cursor>(attachment, std::move(statement), std::move(transaction), input,
+                                          *rows, wanted);
     };
     try {
-        read(attachment->Reading(), kFirstPage);
+        read(attachment->Reading(), count);
     } catch (const EFDError& error) {
+        if (error.Has(kTransliteration) && SeeksForeign(*attachment, FPrepared->Sql().Text, Inputs())) {
+            rows = std::make_unique<RowStore>(FPrepared->Layout());
+            cursor.reset();
+            return false;
+        }
+        if (error.Has(kTransliteration) && FPrepared->Widen()) return OpenRows(rows, cursor, count);
         if (!error.Has(kReadOnlyTransaction)) throw;
         WriteScope write(*attachment);
         read(write.Get(), std::numeric_limits<int>::max());
@@ -95,12 +118,13 @@ bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<C
 }
 
 bool TFDCustomQuery::DoOpen() {
+    RequireNoPending();
     RequirePrepared();
     std::unique_ptr<RowStore> rows;
     std::unique_ptr<Cursor> cursor;
     bool more = false;
     if (FPrepared->HasCursor()) {
-        more = OpenRows(rows, cursor);
+        more = OpenRows(rows, cursor, kFirstPage);
     } else if (!FPrepared->Columns().empty()) {
         rows = std::make_unique<RowStore>();
         ExecuteSql(*FPrepared->On(), FPrepared->Sql().Text, Inputs(), rows.get());
@@ -115,11 +139,30 @@ bool TFDCustomQuery::DoOpen() {
 
 void TFDCustomQuery::DoClose() {
     FCursor.reset();
+    if (FLog) FLog->Clear();
 }
 
 bool TFDCustomQuery::DoFetch(int rows) {
-    FCursor->Fetch(Rows(), rows);
+    try {
+        FCursor->Fetch(Rows(), rows);
+    } catch (const EFDError& error) {
+        const bool widen =
+            error.Has(kTransliteration) && State() == dsBrowse && !UpdatesPending() && FPrepared;
+        if (!widen || !(FPrepared->IsWide() || FPrepared->Widen())) throw;
+        return FetchWide(rows);
+    }
     return !FCursor->AtEnd();
+}
+
+// The rows that are here come again: they must all be of one layout.
+bool TFDCustomQuery::FetchWide(int rows) {
+    const int wanted = rows > std::numeric_limits<int>::max() - RowCount() ? rows : RowCount() + rows;
+    std::unique_ptr<RowStore> wide;
+    std::unique_ptr<Cursor> cursor;
+    const bool more = OpenRows(wide, cursor, wanted);
+    SetRows(std::move(wide));
+    FCursor = std::move(cursor);
+    return more;
 }
 
 int TFDCustomQuery::DoCount() {
@@ -130,7 +173,7 @@ int TFDCustomQuery::DoCount() {
 
 QByteArray TFDCustomQuery::DoReadBlob(int64_t id) const {
     const std::shared_ptr<Attachment> attachment = RequireConnection().RequireAttachment();
-    return ReadBlob(*attachment, *attachment->Reading(), id);
+    return ReadBlob(*attachment, *attachment->Reading(), id, FPrepared && FPrepared->IsWide());
 }
 
 int TFDCustomQuery::ExecSQL() {

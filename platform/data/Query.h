@@ -10,6 +10,7 @@
 // among the columns: changed columns of that table go to it, and the record is then read again.
 #pragma once
 #include <memory>
+#include <optional>
 #include "platform/data/DataSet.h"
 #include "platform/data/Params.h"
 #include "platform/rtl/Strings.h"
@@ -18,6 +19,8 @@ class TFDCustomConnection;
 namespace fichario {
 class Cursor;
 class PreparedQuery;
+class TogetherSave;
+class UpdateLog;
 struct InputValue;
 struct WriteColumn;
 }  // namespace fichario
@@ -73,6 +76,27 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
 
     // Prepares the statement on the server.
     void Prepare();
+    // With cached updates Post and Delete change only the rows here, until ApplyUpdates writes them: for the
+    // items of a record that is not saved yet.
+    //
+    //     items->SetCachedUpdates(true);                           // while closed
+    //     order->AfterPost = [items](TDataSet*) { items->ApplyUpdates(); };
+    //     ... connection->Commit(); items->CommitUpdates();
+    //
+    // Blob columns of such a dataset cannot be changed, a new record's nulls are left to the table's
+    // defaults, and it cannot be refreshed while something is pending.
+    bool CachedUpdates() const { return FLog != nullptr; }
+    void SetCachedUpdates(bool cached);
+    bool UpdatesPending() const;
+    // Writes what is pending: deletions first, then the rows in their order. It stays pending until
+    // CommitUpdates, so that it can be written again after a rollback; new records keep the keys they got.
+    // EDatabaseError, EFDError; the record that could not be written is then the current one.
+    void ApplyUpdates();
+    // What ApplyUpdates wrote is pending no more; nothing when records were changed since.
+    void CommitUpdates();
+    // Closes and opens the dataset: what is pending is lost.
+    void CancelUpdates();
+
     // Executes a statement that is not a SELECT. Returns how many records it changed. EFDError.
     int ExecSQL();
 
@@ -84,6 +108,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     bool DoFetch(int rows) override;
     int DoCount() override;
     void DoPost() override;
+    void DoRenew(int row) const override;
     void DoDelete() override;
     QByteArray DoReadBlob(int64_t id) const override;
     void ConnectionClosing() override;
@@ -91,22 +116,44 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     UnicodeString MainTable() const override;
 
   private:
+    friend class fichario::TogetherSave;
     void SQLChanged();
     fichario::PreparedQuery& RequirePrepared();
     void TakeColumns();
+    bool FetchWide(int rows);
     void RequireWriting();
     std::vector<fichario::InputValue> Inputs() const;
-    bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor);
+    bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor,
+                  int count);
+    std::vector<fichario::WriteColumn> TableColumns() const;
     std::vector<fichario::WriteColumn> WriteColumns() const;
-    void RenewRow(const std::vector<fichario::WriteColumn>& columns);
-    bool ReadAgain(const std::vector<fichario::WriteColumn>& columns);
-    fichario::RowStore ReadWritten(const std::vector<fichario::WriteColumn>& columns);
-    void TakeValues(const std::vector<fichario::WriteColumn>& columns, const fichario::RowStore& written);
+    void RequireNoPending() const;
+    std::vector<Variant> ValuesOf(int row) const;
+    void LogPost();
+    void LogDelete();
+    void WriteDeleted();
+    void WritePending(int row);
+    void Write(std::vector<fichario::WriteColumn>& columns);
+    template <class Check>
+    bool IsSoAnew(Check check);
+    bool DoubtfulIsStored();
+    bool WrittenIsStored();
+    bool TakeStored(std::vector<fichario::WriteColumn>& columns) const;
+    bool IsStored(const std::vector<fichario::WriteColumn>& columns) const;
+    bool Holds(const fichario::RowStore& found, int place, const fichario::WriteColumn& column) const;
+    void RenewRow(int row, const std::vector<fichario::WriteColumn>& columns) const;
+    bool ReadAgain(int row, const std::vector<fichario::WriteColumn>& columns) const;
+    fichario::RowStore ReadWritten(const std::vector<fichario::WriteColumn>& columns) const;
+    void TakeValues(int row, const std::vector<fichario::WriteColumn>& columns,
+                    const fichario::RowStore& written) const;
 
     TStringList FSQL;
     TFDParams FParams;
     std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
+    std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
+    bool FRemember = false;                     // what the next post writes
+    std::optional<std::vector<fichario::WriteColumn>> FWritten;
 };
 
 class TFDQuery : public TFDCustomQuery {

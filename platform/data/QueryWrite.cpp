@@ -1,5 +1,7 @@
 // A query's records written to its table, and read again afterwards.
+#include <algorithm>
 #include "platform/data/Field.h"
+#include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/firebird/SqlRunner.h"
@@ -10,31 +12,67 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace fichario;
 
-// The columns of the record that belong to the table being written.
-std::vector<WriteColumn> TFDCustomQuery::WriteColumns() const {
+namespace {
+
+// Fills in the key's values, where there are any.
+void TakeKey(std::vector<WriteColumn>& columns, const std::vector<Variant>& key) {
+    auto next = key.begin();
+    for (WriteColumn& column : columns) {
+        if (column.Key && next != key.end()) column.Value = *next++;
+    }
+}
+
+// A key that the server made proves by itself whose record it is, whatever triggers made of the rest.
+std::vector<WriteColumn> DoubtfulOf(std::vector<WriteColumn> columns, const std::vector<Variant>& key) {
+    const auto made = [](const WriteColumn& column) { return column.Key && column.Value.IsNull(); };
+    const bool proof = std::any_of(columns.begin(), columns.end(), made);
+    TakeKey(columns, key);
+    for (WriteColumn& column : columns) column.Write = column.Write && !proof;
+    return columns;
+}
+
+UnicodeString WithoutBlanks(UnicodeString text) {
+    while (text.endsWith(u' ')) text.chop(1);
+    return text;
+}
+
+}  // namespace
+
+// The columns that belong to the table being written, without values.
+std::vector<WriteColumn> TFDCustomQuery::TableColumns() const {
     const UnicodeString table = UpdateTable();
     if (table.isEmpty()) throw EDatabaseError(u"The statement has no table that records can be written to"_s);
     std::vector<WriteColumn> columns;
+    columns.reserve(static_cast<size_t>(FieldCount()));
     for (int i = 0; i < FieldCount(); ++i) {
         const ColumnInfo& info = FPrepared->Columns()[static_cast<size_t>(i)];
         if (!FPrepared->IsOf(info, table)) continue;
         const TField& field = *FieldOfColumn(i);
-        const bool blob = info.Kind == WireKind::Blob;
-        const bool inKey = field.ProviderFlags() & pfInKey;
-        const bool writable = (field.ProviderFlags() & pfInUpdate) && !field.Description().ReadOnly;
-        const bool set = State() == dsInsert ? IsAssigned(i) : IsChanged(i);
-        WriteColumn column{i,
-                           info.BaseColumn,
-                           field.DisplayLabel(),
-                           field.DataType(),
-                           {},
-                           {},
-                           writable && set,
-                           (field.ProviderFlags() & pfInWhere) && !blob,
-                           inKey};
-        column.Value = blob && !set ? Variant::Null() : EditedValue(i);
-        if (!blob) column.OldValue = RowValue(CurrentRow(), i);
-        columns.push_back(column);
+        WriteColumn& column = columns.emplace_back();
+        column.Column = i;
+        column.Name = info.BaseColumn;
+        column.Label = field.DisplayLabel();
+        column.Type = field.DataType();
+        column.Write = (field.ProviderFlags() & pfInUpdate) && !field.Description().ReadOnly;
+        column.Compare = (field.ProviderFlags() & pfInWhere) && info.Kind != WireKind::Blob;
+        column.Key = field.ProviderFlags() & pfInKey;
+    }
+    return columns;
+}
+
+// The record being written, with its values. A new one has no old values.
+std::vector<WriteColumn> TFDCustomQuery::WriteColumns() const {
+    std::vector<WriteColumn> columns = TableColumns();
+    for (WriteColumn& column : columns) {
+        const bool blob = Rows().Layout().IsBlob(column.Column);
+        const bool set = State() == dsInsert ? IsAssigned(column.Column) : IsChanged(column.Column);
+        column.Write = column.Write && set;
+        if (!blob && State() != dsInsert) column.OldValue = RowValueOrBytes(CurrentRow(), column.Column);
+        if (set || State() == dsInsert) {
+            column.Value = set ? EditedValue(column.Column) : Variant::Null();
+        } else {
+            column.Value = column.OldValue;
+        }
     }
     return columns;
 }
@@ -42,45 +80,140 @@ std::vector<WriteColumn> TFDCustomQuery::WriteColumns() const {
 // After a lost connection the statement is prepared anew, and must still give the columns that the rows here
 // have.
 void TFDCustomQuery::RequireWriting() {
-    if (RowLayout(RequirePrepared().Columns()) == Rows().Layout()) return;
+    if (RequirePrepared().Layout() == Rows().Layout()) return;
     throw EDatabaseError(u"The columns of the statement have changed; refresh the dataset"_s);
 }
 
+// In a host's transaction nobody else can change the record: unless a control reads it at once, it is read
+// again when it is first looked at, so that many posts in a row cost no more than their statements.
 void TFDCustomQuery::DoPost() {
+    if (FLog) return LogPost();
     RequireWriting();
     std::vector<WriteColumn> columns = WriteColumns();
-    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
-    if (State() == dsInsert) {
-        const std::vector<Variant> key = writer.Insert();
-        size_t next = 0;
-        for (WriteColumn& column : columns) {
-            if (column.Key) column.Value = key[next++];
-        }
-    } else {
-        writer.Update();
-    }
-    RenewRow(columns);
+    Write(columns);
+    if (Heard() || !FPrepared->On()->Host()) return RenewRow(CurrentRow(), columns);
+    TakeValues(CurrentRow(), columns, {});
+    Rows().SetOutdated(CurrentRow());
+}
+
+// Only the key matters: all else is read.
+void TFDCustomQuery::DoRenew(int row) const {
+    std::vector<WriteColumn> columns = TableColumns();
+    for (WriteColumn& column : columns) column.Value = Rows().ValueOrBytes(row, column.Column);
+    RenewRow(row, columns);
 }
 
 void TFDCustomQuery::DoDelete() {
+    if (FLog) return LogDelete();
     RequireWriting();
     std::vector<WriteColumn> columns = WriteColumns();
     for (WriteColumn& column : columns) column.Write = false;
-    RecordWriter(*FPrepared->On(), UpdateTable(), columns).Delete();
+    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
+    try {
+        writer.Delete();
+    } catch (const EFDError&) {
+        if (!writer.InDoubt() || !IsSoAnew([&] { return ReadWritten(columns).Count() == 0; })) throw;
+    }
+}
+
+// ---- a commit in doubt ----
+
+// Whether `check` finds on a new connection that what was lost in the commit had been done. False also when
+// nobody can be asked.
+template <class Check>
+bool TFDCustomQuery::IsSoAnew(Check check) {
+    try {
+        RequireWriting();
+        return check();
+    } catch (const EDatabaseError&) {
+        return false;
+    }
+}
+
+// A connection lost during the commit tells nothing of the record: that is read before anything is said, and,
+// when that cannot be now, before it is written again.
+void TFDCustomQuery::Write(std::vector<WriteColumn>& columns) {
+    const bool stored = TakeStored(columns);
+    const std::vector<WriteColumn> before = FRemember ? columns : std::vector<WriteColumn>();
+    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns, &FPrepared->LastInsert);
+    std::vector<Variant> key;
+    try {
+        if (State() == dsInsert && !stored) {
+            key = writer.Insert();
+            TakeKey(columns, key);
+        } else {
+            writer.Update();
+        }
+        if (FRemember) FWritten = DoubtfulOf(before, key);
+    } catch (const EFDError&) {
+        if (!writer.InDoubt()) throw;
+        Doubtful() = DoubtfulOf(columns, writer.DoubtfulKey());
+        if (!IsSoAnew([&] { return IsStored(*Doubtful()); })) throw;
+        TakeKey(columns, writer.DoubtfulKey());
+    }
+}
+
+bool TFDCustomQuery::WrittenIsStored() {
+    return IsSoAnew([this] { return IsStored(*FWritten); });
+}
+
+bool TFDCustomQuery::DoubtfulIsStored() {
+    FWritten.reset();
+    if (!Doubtful()) return false;
+    RequireWriting();
+    return IsStored(*Doubtful());
+}
+
+// Whether the doubtful record is stored; `columns` then are what is left to change in it.
+bool TFDCustomQuery::TakeStored(std::vector<WriteColumn>& columns) const {
+    if (!Doubtful() || !IsStored(*Doubtful())) return false;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        const WriteColumn& before = (*Doubtful())[i];
+        WriteColumn& now = columns[i];
+        const bool written = now.Write || before.Write;
+        if (written && !now.Write) now.Value = EditedValue(now.Column);
+        if (now.Key && now.Value.IsNull()) now.Value = before.Value;
+        if (written || now.Key) now.OldValue = before.Value;
+        now.Write = written && !(now.Value == before.Value);
+    }
+    return true;
+}
+
+// Whether the table holds what was written.
+bool TFDCustomQuery::IsStored(const std::vector<WriteColumn>& columns) const {
+    const RowStore found = ReadWritten(columns);
+    if (found.Count() != 1) return false;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].Write && !Holds(found, static_cast<int>(i), columns[i])) return false;
+    }
+    return true;
+}
+
+// Blanks at the end of a text are not kept everywhere.
+bool TFDCustomQuery::Holds(const RowStore& found, int place, const WriteColumn& column) const {
+    Variant stored = found.ValueOrBytes(0, place);
+    if (found.Layout().IsBlob(place) && !stored.IsNull()) {
+        Attachment& attachment = *FPrepared->On();
+        const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), stored.ToInt64());
+        stored = column.Type == ftBlob ? Variant(bytes)
+                                       : Variant(DecodeText(found.Layout().Encoding(place), bytes));
+    }
+    if (stored.Kind() != vkText || column.Value.Kind() != vkText) return stored == column.Value;
+    return WithoutBlanks(stored.ToText()) == WithoutBlanks(column.Value.ToText());
 }
 
 // The record is written: a failure to read it again must not look like a failure to write it, and shows at
 // the next call.
-void TFDCustomQuery::RenewRow(const std::vector<WriteColumn>& columns) {
+void TFDCustomQuery::RenewRow(int row, const std::vector<WriteColumn>& columns) const {
     try {
-        if (!ReadAgain(columns)) TakeValues(columns, ReadWritten(columns));
+        if (!ReadAgain(row, columns)) TakeValues(row, columns, ReadWritten(columns));
     } catch (const EFDError&) {
-        TakeValues(columns, {});
+        TakeValues(row, columns, {});
     }
 }
 
 // Runs the statement for this record alone, so that computed and joined columns are right too.
-bool TFDCustomQuery::ReadAgain(const std::vector<WriteColumn>& columns) {
+bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns) const {
     const SqlShape& shape = FPrepared->Shape();
     TStringArray names;
     std::vector<InputValue> key;
@@ -92,14 +225,14 @@ bool TFDCustomQuery::ReadAgain(const std::vector<WriteColumn>& columns) {
     if (names.empty() || !shape.IsPlain() || UpdateTable() != shape.MainTable()) return false;
     std::vector<InputValue> values = Inputs();
     values.insert(values.begin() + shape.ParamsBeforeWhere(), key.begin(), key.end());
-    const RowStore found = ReadRows(*FPrepared->On(), shape.KeyedText(names), values);
+    const RowStore found = FPrepared->Read(shape.KeyedText(names), values);
     if (found.Count() != 1 || !(found.Layout() == Rows().Layout())) return false;
-    Rows().CopyRow(CurrentRow(), found, 0);
+    Rows().CopyRow(row, found, 0);
     return true;
 }
 
 // The record's columns of its own table: for one that no longer is among the statement's rows.
-RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) {
+RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) const {
     TStringArray names, conditions;
     std::vector<InputValue> key;
     for (const WriteColumn& column : columns) {
@@ -115,18 +248,21 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) {
 }
 
 // The row takes what its table holds now, or, when that cannot be asked for, what was written.
-void TFDCustomQuery::TakeValues(const std::vector<WriteColumn>& columns, const RowStore& written) {
-    std::vector<Variant> values;
-    for (int i = 0; i < FieldCount(); ++i) values.push_back(Rows().Value(CurrentRow(), i));
+void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns,
+                                const RowStore& written) const {
+    std::vector<Variant> values(static_cast<size_t>(FieldCount()), Variant::Null());
+    if (State() != dsInsert) {
+        for (int i = 0; i < FieldCount(); ++i) values[static_cast<size_t>(i)] = Rows().ValueOrBytes(row, i);
+    }
     int next = 0;
     for (const WriteColumn& column : columns) {
         Variant& value = values[static_cast<size_t>(column.Column)];
         const bool blob = column.Type == ftMemo || column.Type == ftBlob;
         if (written.Count() == 1) {
-            value = written.Value(0, next++);
+            value = written.ValueOrBytes(0, next++);
         } else if (!blob) {
             value = column.Value;
         }
     }
-    Rows().SetValues(CurrentRow(), values);
+    Rows().SetValues(row, values);
 }

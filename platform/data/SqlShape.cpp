@@ -127,11 +127,19 @@ SqlShape::SqlShape(const UnicodeString& sql) : FText(sql) {
     SqlShapeReader(*this).Read();
 }
 
-UnicodeString SqlShape::CountText(int columns) const {
+UnicodeString SqlShape::Around(const UnicodeString& items, qsizetype end, size_t columns) const {
     TStringArray names;
-    for (int i = 1; i <= columns; ++i) names.push_back(u'C' + UnicodeString::number(i));
-    return u"SELECT COUNT(*) FROM ("_s + FText.left(FOrder >= 0 ? FOrder : FEnd) + u"\n) R ("_s +
-           Joined(names, u", "_s) + u')';
+    for (size_t i = 1; i <= columns; ++i) names.push_back(u'C' + UnicodeString::number(i));
+    return u"SELECT "_s + items + u" FROM ("_s + FText.left(end) + u"\n) R ("_s + Joined(names, u", "_s) +
+           u')';
+}
+
+UnicodeString SqlShape::AroundText(const TStringArray& items) const {
+    return Around(Joined(items, u", "_s), FEnd, items.size());
+}
+
+UnicodeString SqlShape::CountText(int columns) const {
+    return Around(u"COUNT(*)"_s, FOrder >= 0 ? FOrder : FEnd, static_cast<size_t>(columns));
 }
 
 UnicodeString SqlShape::KeyedText(const TStringArray& keyColumns) const {

@@ -30,6 +30,10 @@ class SqlShape {
     // ROWS.
     bool IsPlain() const { return FPlain && !FMainTable.isEmpty(); }
 
+    // A statement that selects `items` of this one, whose columns they name R.C1, R.C2 and so on. Same
+    // parameters.
+    UnicodeString AroundText(const TStringArray& items) const;
+
     // A statement that counts the rows of this one; `columns` is how many columns it has. Same parameters.
     UnicodeString CountText(int columns) const;
 
@@ -40,6 +44,7 @@ class SqlShape {
 
   private:
     friend class SqlShapeReader;
+    UnicodeString Around(const UnicodeString& items, qsizetype end, size_t columns) const;
 
     UnicodeString FText, FMainTable, FMainAlias;
     qsizetype FFrom = -1, FWhere = -1, FConditionsEnd = -1, FOrder = -1, FEnd = 0;

@@ -11,10 +11,6 @@ constexpr std::array<WideChar, 32> kHigh = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-WideChar CharacterOf(unsigned char byte) {
-    return byte >= 0x80 && byte < 0xA0 ? kHigh[byte - 0x80] : byte;
-}
-
 std::optional<char> ByteOf(WideChar character) {
     if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return static_cast<char>(character);
     const auto found = std::find(kHigh.begin(), kHigh.end(), character);
@@ -32,14 +28,32 @@ AnsiString ToAnsi(QStringView text) {
 }
 
 std::optional<AnsiString> ToAnsiExact(QStringView text) {
-    const bool all = std::all_of(text.begin(), text.end(), [](QChar c) { return InCodePage(c.unicode()); });
-    return all ? std::optional(ToAnsi(text)) : std::nullopt;
+    AnsiString bytes(text.size(), Qt::Uninitialized);
+    return PutAnsiExact(text, bytes.data()) ? std::optional(bytes) : std::nullopt;
+}
+
+bool PutAnsiExact(QStringView text, char* bytes) {
+    // Most texts hold only characters that equal their byte; this loop the compiler makes a vector's.
+    bool others = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const WideChar c = text.utf16()[i];
+        others |= c > 0xFF || (c & 0xE0) == 0x80;
+        bytes[i] = static_cast<char>(c);
+    }
+    if (!others) return true;
+    for (const QChar c : text) {
+        const std::optional<char> byte = ByteOf(c.unicode());
+        if (!byte) return false;
+        *bytes++ = *byte;
+    }
+    return true;
 }
 
 UnicodeString FromAnsi(QByteArrayView bytes) {
-    UnicodeString text(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char byte) { return QChar(CharacterOf(static_cast<unsigned char>(byte))); });
+    UnicodeString text = UnicodeString::fromLatin1(bytes);
+    for (QChar& c : text) {
+        if (c.unicode() >= 0x80 && c.unicode() < 0xA0) c = QChar(kHigh[c.unicode() - 0x80]);
+    }
     return text;
 }
 

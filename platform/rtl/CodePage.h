@@ -18,6 +18,10 @@ AnsiString ToAnsi(QStringView text);
 // The text's bytes, or nothing when the code page lacks one of its characters.
 std::optional<AnsiString> ToAnsiExact(QStringView text);
 
+// The same into `bytes`, which has room for text.size() of them. False when the code page lacks a character;
+// what was written is then of no use.
+bool PutAnsiExact(QStringView text, char* bytes);
+
 // The text of bytes in the code page; never fails.
 UnicodeString FromAnsi(QByteArrayView bytes);
 

@@ -70,7 +70,11 @@ Variant Variant::Array(std::vector<Variant> values) {
     return value;
 }
 
-UnicodeString Variant::ToText() const {
+UnicodeString Variant::ToText() && {
+    return Kind() == vkText ? std::move(std::get<UnicodeString>(FValue)) : std::as_const(*this).ToText();
+}
+
+UnicodeString Variant::ToText() const& {
     switch (Kind()) {
         case vkUnassigned:
         case vkNull: return {};

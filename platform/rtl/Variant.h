@@ -9,6 +9,7 @@
 #pragma once
 #include <concepts>
 #include <cstdint>
+#include <utility>
 #include <variant>
 #include <vector>
 #include "platform/rtl/Currency.h"
@@ -41,8 +42,8 @@ class Variant {
     Variant(Currency value) : FValue(value) {}
     Variant(const Decimal& value) : FValue(value) {}
     Variant(TDateTime value) : FValue(value) {}
-    Variant(const UnicodeString& value) : FValue(value) {}
-    Variant(const QByteArray& value) : FValue(value) {}
+    Variant(UnicodeString value) : FValue(std::move(value)) {}
+    Variant(QByteArray value) : FValue(std::move(value)) {}
     template <typename T>
     Variant(const T* pointer) = delete;  // a pointer would silently become a boolean
 
@@ -59,7 +60,8 @@ class Variant {
 
     // Numbers and dates in the formats of FormatSettings, booleans as "True" and "False", bytes read in the
     // system code page. An array throws.
-    UnicodeString ToText() const;
+    UnicodeString ToText() const&;
+    UnicodeString ToText() &&;
 
     // Whole numbers; fractions are rounded to the nearest, ties to even. ToInt also throws beyond 32 bits.
     int ToInt() const;

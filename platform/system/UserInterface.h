@@ -43,6 +43,9 @@ class TUserInterface {
     // Brings the application's windows before those of other programs.
     virtual void BringToFront() = 0;
 
+    // Escape was typed during the wait that is running.
+    virtual bool WaitCancelled() const { return false; }
+
     // Waits until `doneWithin` is true. It is called again and again with a time in milliseconds, for which
     // it may block; it must not block longer. Messages other than paint, Escape and its own deadline are held
     // back.

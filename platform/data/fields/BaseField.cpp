@@ -60,7 +60,11 @@ Variant TField::Value() const {
 }
 
 bool TField::IsNull() const {
-    return Value().IsNull();
+    try {
+        return Value().IsNull();
+    } catch (const EUnreadableText&) {
+        return false;
+    }
 }
 
 Variant TField::OldValue() const {
@@ -129,9 +133,9 @@ void TField::Store(Variant value) {
     }
     FValidating = outer;
     if (outer) {
-        *outer = value;
+        *outer = std::move(value);
     } else {
-        FDataSet->StoreColumn(this, value);
+        FDataSet->StoreColumn(this, std::move(value));
     }
 }
 
@@ -196,9 +200,18 @@ UnicodeString TField::Text() const {
     return text;
 }
 
+// Painting must not fail: it would at once be asked for again, without end.
+UnicodeString TField::PlainDisplayText() const {
+    try {
+        const Variant value = Value();
+        return value.IsNull() ? UnicodeString() : FormatValue(value, true);
+    } catch (const EUnreadableText&) {
+        return u"(ilegível)"_s;
+    }
+}
+
 UnicodeString TField::DisplayText() const {
-    const Variant value = Value();
-    UnicodeString text = value.IsNull() ? UnicodeString() : FormatValue(value, true);
+    UnicodeString text = PlainDisplayText();
     if (OnGetText) OnGetText(const_cast<TField*>(this), text, true);
     return text;
 }

@@ -87,7 +87,9 @@ class TField : public TComponent {
     // The value before the edit began; null in a new record; Value() while nothing is edited.
     Variant OldValue() const;
     // Null gives the empty text, 0, false.
-    // EConvertError when the value cannot be one of that kind.
+    // EConvertError when the value cannot be one of that kind; EUnreadableText, naming the label, when the
+    // bytes of a stored text form no characters. Such a value is not null, and whatever is set in its place
+    // counts as a change.
     virtual UnicodeString AsString() const;
     int AsInteger() const;
     int64_t AsLargeInt() const;
@@ -119,7 +121,7 @@ class TField : public TComponent {
     // What the user typed: OnSetText, or SetAsString.
     void SetText(const UnicodeString& text);
     // The text that grids and labels show: OnGetText with displayText true, or the value by the field's
-    // format.
+    // format; "(ilegível)" for a stored text that cannot be read.
     UnicodeString DisplayText() const;
 
     // Asks the controls on this field to take the focus.
@@ -162,6 +164,7 @@ class TField : public TComponent {
 
   private:
     friend class TDataSet;
+    UnicodeString PlainDisplayText() const;
     void Store(Variant value);
     void CheckWritable() const;
 

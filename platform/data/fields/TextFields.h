@@ -8,6 +8,8 @@ class TStringField : public TField {
   public:
     explicit TStringField(TComponent* owner, TFieldType type = ftString) : TField(owner, type) {}
 
+    UnicodeString AsString() const override { return Value().ToText(); }
+
   protected:
     ~TStringField() override = default;
     Variant Convert(const Variant& value) const override;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <algorithm>
 #include "platform/data/firebird/AttachErrors.h"
+#include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/ClientLibrary.h"
 #include "platform/data/firebird/DatabaseName.h"
 #include "platform/data/firebird/FbApi.h"
@@ -20,20 +21,7 @@ namespace fichario {
 namespace {
 
 constexpr size_t kIdleStatements = 64;
-
-struct CharacterSetNumber {
-    QStringView Name;
-    unsigned Number;
-};
-constexpr CharacterSetNumber kCharacterSets[] = {
-    {u"UTF8", 4}, {u"ISO8859_1", 21}, {u"LATIN1", 21}, {u"ANSI", 21}, {u"WIN1252", 53}};
-
-unsigned NumberOf(QStringView name) {
-    for (const CharacterSetNumber& set : kCharacterSets) {
-        if (name.compare(set.Name, Qt::CaseInsensitive) == 0) return set.Number;
-    }
-    return 0;
-}
+constexpr int kEndingSeconds = 10;
 
 // The list of options of an attach, as the client library builds it.
 class AttachOptions {
@@ -136,21 +124,31 @@ std::shared_ptr<Attachment> Attachment::Create(const AttachSettings& settings) {
 
 Attachment::Attachment(Firebird::IAttachment* handle, const AttachSettings& settings)
     : FHandle(handle),
+      FStatementTimeout(settings.StatementTimeout),
+      FLocal(settings.Local),
       FEncoding(EncodingOfName(settings.CharacterSet)),
-      FCharacterSet(NumberOf(settings.CharacterSet)) {}
+      FCharacterSet(CharacterSetNumber(settings.CharacterSet)) {}
 
 Attachment::~Attachment() {
     FIdle.clear();
     FHost.reset();
     FRead.reset();
-    const bool ended = QuietClientCall(
-        CallKind::Detach, [&](Firebird::ThrowStatusWrapper& status) { FHandle->detach(&status); });
+    // The wait may want to break the detachment off just as it ends.
+    FHandle->addRef();
+    const bool ended =
+        End(CallKind::Detach, [&](Firebird::ThrowStatusWrapper& status) { FHandle->detach(&status); });
+    FHandle->release();
     if (!ended) FHandle->release();
+}
+
+bool Attachment::End(CallKind kind, const ClientBody& body) noexcept {
+    // The engine in this process always answers: a long rollback or flush is its work.
+    return QuietClientCall(kind, body, {FHandle, FLocal ? 0 : kEndingSeconds, FLocal});
 }
 
 void Attachment::Call(CallKind kind, const ClientBody& body) {
     try {
-        ClientCall(kind, FEncoding, body);
+        ClientCall(kind, FEncoding, body, {FHandle, FStatementTimeout, FLocal});
     } catch (const EFDError& error) {
         FUsable = FUsable && error.ConnectionUsable;
         throw;

@@ -28,6 +28,7 @@ struct AttachSettings {
     UnicodeString CharacterSet;  // a name the server knows
     bool Local = false;          // the engine inside this process
     int ConnectTimeout = 10;     // seconds until a server must have answered
+    int StatementTimeout = 600;  // seconds that one call of a statement, or a commit, may take; 0: any time
     int PageSize = 16384;        // of a new database
     bool ForcedWrites = true;    // of a new database
 };
@@ -51,6 +52,9 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     bool Usable() const { return FUsable; }
     // A client call with this connection's encoding; notices a lost connection.
     void Call(CallKind kind, const ClientBody& body);
+    // The same for endings, which must not keep anybody waiting for a server that does not answer: true when
+    // `body` ran without an error; nothing is thrown.
+    bool End(CallKind kind, const ClientBody& body) noexcept;
 
     // The transaction that reads happen in now: the host's, or the long read-only one.
     std::shared_ptr<Transaction> Reading();
@@ -73,6 +77,8 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     void GiveBack(std::unique_ptr<Statement> statement);
 
     Firebird::IAttachment* FHandle;
+    int FStatementTimeout;
+    bool FLocal;
     TextEncoding FEncoding;
     unsigned FCharacterSet;
     bool FUsable = true;

@@ -8,7 +8,7 @@ namespace fichario {
 // that lives.
 int64_t WriteBlob(Attachment& attachment, Transaction& transaction, const QByteArray& bytes);
 
-// The blob's content. EFDError.
-QByteArray ReadBlob(Attachment& attachment, Transaction& transaction, int64_t id);
+// The blob's content, a text in the connection's character set unless it is read `asIs`. EFDError.
+QByteArray ReadBlob(Attachment& attachment, Transaction& transaction, int64_t id, bool asIs = false);
 
 }  // namespace fichario

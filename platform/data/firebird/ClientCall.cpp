@@ -1,7 +1,17 @@
 #include "platform/data/firebird/ClientCall.h"
 
+#include <atomic>
+#include <chrono>
+#include <exception>
+#include <optional>
+#include <QScopeGuard>
+
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/FbErrors.h"
+#include "platform/data/firebird/ServiceThread.h"
+#include "platform/system/UserInterface.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace fichario {
 
@@ -25,25 +35,136 @@ class CallStatus {
     Firebird::ThrowStatusWrapper FStatus;
 };
 
+bool g_running = false;
+std::atomic<bool> g_stop = false;  // the call that is running is to be broken off
+
+struct Stopped {};
+
+ServiceThread& Service() {
+    static ServiceThread service;
+    return service;
+}
+
+bool IsStatement(CallKind kind) {
+    return kind == CallKind::Prepare || kind == CallKind::Execute || kind == CallKind::Write ||
+           kind == CallKind::Fetch || kind == CallKind::Blob;
+}
+
+bool IsShort(CallKind kind) {
+    return kind == CallKind::Start || kind == CallKind::Write || kind == CallKind::Close ||
+           kind == CallKind::Commit;
+}
+
+// Watches over one call while the program waits for it.
+class CallWatch {
+  public:
+    CallWatch(CallKind kind, const CallLimit& limit) : FKind(kind), FLimit(limit) {}
+
+    bool DoneWithin(int milliseconds) {
+        if (Service().DoneWithin(milliseconds)) return true;
+        if (FLimit.Attachment) BreakOffWhenDue();
+        return false;
+    }
+    bool IsShort() const { return FLimit.Local && fichario::IsShort(FKind); }
+    // What was cancelled may have ended by itself just before, and the next statement must not pay for it.
+    void Forgive() {
+        if (!FAsked) return;
+        Cancel(fb_cancel_disable);
+        Cancel(fb_cancel_enable);
+    }
+    EFDError Judged(const EFDError& error) const {
+        return FTimedOut ? error.Saying(u"O servidor não respondeu no tempo permitido."_s) : error;
+    }
+
+  private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr std::chrono::seconds kObeys{5};  // a server that lives answers to a cancel by then
+
+    // First the statement is cancelled, which keeps the connection; who does not answer is left.
+    void BreakOffWhenDue() {
+        const Clock::time_point now = Clock::now();
+        if (FAsked) {
+            if (now - *FAsked > kObeys) Cancel(fb_cancel_abort);
+            return;
+        }
+        FTimedOut = FLimit.Seconds > 0 && now - FBegin > std::chrono::seconds(FLimit.Seconds);
+        if (!FTimedOut && !(IsStatement(FKind) && UserInterface().WaitCancelled())) return;
+        FAsked = now;
+        g_stop = true;
+        Cancel(IsStatement(FKind) ? fb_cancel_raise : fb_cancel_abort);
+    }
+    void Cancel(int how) {
+        CallStatus status;
+        try {
+            FLimit.Attachment->cancelOperation(&status.Get(), how);
+        } catch (const Firebird::FbException&) {
+            // Nothing runs any more that could be cancelled: the call is about to end.
+        }
+    }
+
+    const CallKind FKind;
+    const CallLimit FLimit;
+    const Clock::time_point FBegin = Clock::now();
+    std::optional<Clock::time_point> FAsked;
+    bool FTimedOut = false;
+};
+
+// Runs `body` and gives what it threw.
+std::exception_ptr Run(const ClientBody& body, Firebird::ThrowStatusWrapper& status, CallWatch& watch) {
+    if (g_running) Abort();
+    const auto free = qScopeGuard([] { g_running = false; });
+    g_running = true;
+    g_stop = false;
+    std::exception_ptr thrown;
+    const std::function<void()> work = [&] {
+        try {
+            body(status);
+        } catch (...) {
+            thrown = std::current_exception();
+        }
+    };
+    if (watch.IsShort()) {
+        work();
+        return thrown;
+    }
+    Service().Start(work);
+    UserInterface().WaitFor([&](int milliseconds) { return watch.DoneWithin(milliseconds); });
+    watch.Forgive();
+    return thrown;
+}
+
 }  // namespace
+
+bool ClientCallRunning() {
+    return g_running;
+}
 
 CallHook SetClientCallHook(CallHook hook) {
     return std::exchange(Hook(), std::move(hook));
 }
 
-void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body) {
+void StopIfAsked() {
+    if (g_stop.load(std::memory_order_relaxed)) throw Stopped();
+}
+
+void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body, const CallLimit& limit) {
     if (Hook()) Hook()(kind);
     CallStatus status;
+    CallWatch watch(kind, limit);
+    const std::exception_ptr thrown = Run(body, status.Get(), watch);
+    if (!thrown) return;
     try {
-        body(status.Get());
+        std::rethrow_exception(thrown);
     } catch (const Firebird::FbException& error) {
-        throw ErrorOf(*error.getStatus(), encoding);
+        throw watch.Judged(ErrorOf(*error.getStatus(), encoding));
+    } catch (const Stopped&) {
+        throw watch.Judged(ErrorOfCodes({isc_cancelled}));
     }
 }
 
-bool QuietClientCall(CallKind kind, const ClientBody& body) noexcept {
+bool QuietClientCall(CallKind kind, const ClientBody& body, const CallLimit& limit) noexcept {
     try {
-        ClientCall(kind, TextEncoding::Windows1252, body);
+        ClientCall(kind, TextEncoding::Windows1252, body, limit);
         return true;
     } catch (...) {
         return false;

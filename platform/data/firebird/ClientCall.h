@@ -2,8 +2,10 @@
 // with first fetch, fetch of a batch, commit, blob segments, the endings.
 //
 //     ClientCall(CallKind::Fetch, encoding, [&](Firebird::ThrowStatusWrapper& status) {
-//         while (rows-- > 0 && cursor->fetchNext(&status, buffer) == Firebird::IStatus::RESULT_OK)
-//         store.Append(buffer);
+//         while (rows-- > 0 && cursor->fetchNext(&status, buffer) == Firebird::IStatus::RESULT_OK) {
+//             store.Append(buffer);
+//             StopIfAsked();
+//         }
 //     });
 //
 // What the client throws comes out as EFDError. Tests look in through the hook.
@@ -13,20 +15,40 @@
 #include "platform/data/firebird/TextEncoding.h"
 
 namespace Firebird {
+class IAttachment;
 class ThrowStatusWrapper;
-}
+}  // namespace Firebird
 
 namespace fichario {
 
-enum class CallKind { Attach, Detach, Start, Prepare, Execute, Fetch, Close, Commit, Rollback, Blob };
+// Write: the statement of a single record, found by its key.
+enum class CallKind { Attach, Detach, Start, Prepare, Execute, Write, Fetch, Close, Commit, Rollback, Blob };
 
 using ClientBody = std::function<void(Firebird::ThrowStatusWrapper& status)>;
 
-// Runs `body` with a status of its own. `encoding` is that of the server's texts. EFDError.
-void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body);
+// What a call may be broken off by, besides its end.
+struct CallLimit {
+    Firebird::IAttachment* Attachment = nullptr;  // the connection to break off on; null: nothing does
+    int Seconds = 0;                              // that the call may take; 0: any time
+    bool Local = false;                           // the engine is in this process: what is short never waits
+};
+
+// Runs `body` with a status of its own on the service thread, and waits for it as the screen does; what is
+// short on an engine in this process runs at once. `encoding`
+// is that of the server's texts. Escape breaks off a statement, the limit also a commit; a server that does
+// not even answer to that loses the connection. A call out of such a wait, which only painting can make, is
+// refused by a silent abort. EFDError.
+void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body, const CallLimit& limit = {});
+
+// For a body of many steps, before each: ends the call as a cancelled statement when it is to be broken off.
+// The client cancels only the one step that is running.
+void StopIfAsked();
 
 // The same for endings: true when `body` ran without an error; nothing is thrown.
-bool QuietClientCall(CallKind kind, const ClientBody& body) noexcept;
+bool QuietClientCall(CallKind kind, const ClientBody& body, const CallLimit& limit = {}) noexcept;
+
+// A call is under way on the service thread, where rows may be growing: nobody may read rows until it ends.
+bool ClientCallRunning();
 
 // Called before each call; what it throws, the call throws without touching the client. Null: none. Returns
 // the hook before.

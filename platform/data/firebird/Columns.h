@@ -35,8 +35,9 @@ struct ColumnInfo {
     uint32_t Length = 0;  // bytes
     int Characters = 0;   // texts: how many fit
     TextEncoding Encoding = TextEncoding::Windows1252;
-    uint32_t Offset = 0;      // of the value in the message
-    uint32_t NullOffset = 0;  // of its null flag, two bytes
+    unsigned CharacterSet = 0;  // in which a text or text blob comes, by the server's number
+    uint32_t Offset = 0;        // of the value in the message
+    uint32_t NullOffset = 0;    // of its null flag, two bytes
 };
 
 using ColumnList = std::vector<ColumnInfo>;

@@ -5,16 +5,24 @@
 namespace fichario {
 
 Cursor::Cursor(std::shared_ptr<Attachment> attachment, StatementLease statement,
-               std::shared_ptr<Transaction> transaction, InputMessage& input)
+               std::shared_ptr<Transaction> transaction, InputMessage& input, RowStore& store, int rows)
     : FAttachment(std::move(attachment)),
       FTransaction(std::move(transaction)),
       FStatement(std::move(statement)),
       FRow(FStatement->RowBytes()) {
     input.Build(*FStatement, *FTransaction);
-    FAttachment->Call(CallKind::Execute, [&](Firebird::ThrowStatusWrapper& status) {
-        FHandle = FStatement->Handle()->openCursor(&status, FTransaction->Handle(), input.Format(),
-                                                   input.Bytes(), FStatement->RowFormat(), 0);
-    });
+    int fetched = 0;
+    try {
+        FAttachment->Call(CallKind::Execute, [&](Firebird::ThrowStatusWrapper& status) {
+            FHandle = FStatement->Handle()->openCursor(&status, FTransaction->Handle(), input.Format(),
+                                                       input.Bytes(), FStatement->RowFormat(), 0);
+            fetched = TakeRows(status, store, rows);
+        });
+    } catch (...) {
+        Close();
+        throw;
+    }
+    Finish(store, fetched < rows);
 }
 
 Cursor::~Cursor() {
@@ -23,10 +31,26 @@ Cursor::~Cursor() {
 
 void Cursor::Close() {
     if (!FHandle) return;
-    const bool closed = QuietClientCall(
+    const bool closed = FAttachment->End(
         CallKind::Close, [&](Firebird::ThrowStatusWrapper& status) { FHandle->close(&status); });
     if (!closed) FHandle->release();
     FHandle = nullptr;
+}
+
+int Cursor::TakeRows(Firebird::ThrowStatusWrapper& status, RowStore& store, int rows) {
+    int taken = 0;
+    for (; taken < rows && FHandle->fetchNext(&status, FRow.data()) == Firebird::IStatus::RESULT_OK;
+         ++taken) {
+        store.Append(FRow.data());
+        StopIfAsked();
+    }
+    return taken;
+}
+
+void Cursor::Finish(RowStore& store, bool ended) {
+    if (!ended) return;
+    Close();
+    store.Fit();
 }
 
 int Cursor::Fetch(RowStore& store, int rows) {
@@ -35,16 +59,13 @@ int Cursor::Fetch(RowStore& store, int rows) {
     int fetched = 0;
     try {
         FAttachment->Call(CallKind::Fetch, [&](Firebird::ThrowStatusWrapper& status) {
-            for (; fetched < rows && FHandle->fetchNext(&status, FRow.data()) == Firebird::IStatus::RESULT_OK;
-                 ++fetched) {
-                store.Append(FRow.data());
-            }
+            fetched = TakeRows(status, store, rows);
         });
     } catch (...) {
         FFailure = std::current_exception();
         throw;
     }
-    if (fetched < rows) Close();
+    Finish(store, fetched < rows);
     return fetched;
 }
 

@@ -1,6 +1,6 @@
 // The rows of an executed SELECT, brought in batches.
 //
-//     Cursor cursor(attachment, std::move(statement), attachment->Reading(), input);
+//     Cursor cursor(attachment, std::move(statement), attachment->Reading(), input, store, 64);
 //     while (!cursor.AtEnd()) cursor.Fetch(store, 1000);
 #pragma once
 #include <exception>
@@ -15,9 +15,10 @@ namespace fichario {
 
 class Cursor {
   public:
-    // Executes in `transaction`, which it keeps. EFDError.
+    // Executes in `transaction`, which it keeps, and brings the first `rows` rows into `store` in the same
+    // call. EFDError.
     Cursor(std::shared_ptr<Attachment> attachment, StatementLease statement,
-           std::shared_ptr<Transaction> transaction, InputMessage& input);
+           std::shared_ptr<Transaction> transaction, InputMessage& input, RowStore& store, int rows);
     ~Cursor();
     Cursor(const Cursor&) = delete;
     Cursor& operator=(const Cursor&) = delete;
@@ -30,6 +31,8 @@ class Cursor {
     const std::shared_ptr<Transaction>& InTransaction() const { return FTransaction; }
 
   private:
+    int TakeRows(Firebird::ThrowStatusWrapper& status, RowStore& store, int rows);
+    void Finish(RowStore& store, bool ended);
     void Close();
 
     std::shared_ptr<Attachment> FAttachment;

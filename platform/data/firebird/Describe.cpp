@@ -1,5 +1,6 @@
 #include "platform/data/firebird/Describe.h"
 
+#include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/FbApi.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -8,7 +9,7 @@ namespace fichario {
 
 namespace {
 
-constexpr unsigned kUnicodeFss = 3, kUtf8 = 4;
+constexpr unsigned kUnicodeFss = 3;
 
 WireKind KindOf(unsigned type) {
     switch (type & ~1u) {
@@ -31,8 +32,8 @@ WireKind KindOf(unsigned type) {
 }
 
 // A column without a character set of its own comes as its bytes are, taken as Windows-1252.
-void DescribeText(ColumnInfo& column, unsigned characterSet) {
-    const unsigned bytes = characterSet == kUtf8 ? 4 : characterSet == kUnicodeFss ? 3 : 1;
+void DescribeText(ColumnInfo& column) {
+    const unsigned bytes = column.CharacterSet == kUtf8Set ? 4 : column.CharacterSet == kUnicodeFss ? 3 : 1;
     column.Encoding = bytes > 1 ? TextEncoding::Utf8 : TextEncoding::Windows1252;
     column.Characters = static_cast<int>(column.Length / bytes);
 }
@@ -56,8 +57,9 @@ ColumnList ColumnsOf(Firebird::ThrowStatusWrapper& status, Firebird::IMessageMet
         column.Offset = format.getOffset(&status, i);
         column.NullOffset = format.getNullOffset(&status, i);
         column.Encoding = attachment.Encoding();
+        column.CharacterSet = format.getCharSet(&status, i);
         const bool isText = column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
-        if (isText) DescribeText(column, format.getCharSet(&status, i));
+        if (isText) DescribeText(column);
     }
     return columns;
 }

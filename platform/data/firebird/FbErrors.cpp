@@ -33,6 +33,7 @@ constexpr Sentence kSentences[] = {
     {isc_att_shutdown, kLost},
     {isc_bad_db_handle, kLost},
     {isc_lost_db_connection, kLost},
+    {isc_cancelled, u"A operação foi cancelada."},
     {isc_already_opened, u"O banco de dados já está aberto por outro programa."},
     {isc_network_error, kNoServer},
     {isc_net_connect_err, kNoServer},

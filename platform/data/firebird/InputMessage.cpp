@@ -5,6 +5,7 @@
 #include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/InputValues.h"
+#include "platform/data/firebird/PlainMessage.h"
 #include "platform/data/firebird/WireTime.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -54,6 +55,8 @@ InputMessage::InputMessage(Attachment& attachment, const ColumnList& described,
         throw EDatabaseError(u"The statement has %1 parameters, %2 values were given"_s.arg(described.size())
                                  .arg(values.size()));
     }
+    FPlain = LayPlain(described, values, FBytes);
+    if (FPlain) return;
     for (size_t i = 0; i < values.size(); ++i) FParts.push_back(PartOf(i, described[i], values[i]));
 }
 
@@ -113,7 +116,7 @@ InputMessage::Part InputMessage::PartOf(size_t place, const ColumnInfo& describe
 }
 
 void InputMessage::Build(const Statement& statement, Transaction& transaction) {
-    if (FParts.empty()) return;
+    if (FPlain) return TakeFormat(statement);
     for (Part& part : FParts) {
         if (part.Blob) part.Bytes = BytesOf(WriteBlob(FAttachment, transaction, part.Bytes));
     }
@@ -131,6 +134,12 @@ void InputMessage::Build(const Statement& statement, Transaction& transaction) {
         builder->release();
         Lay(status);
     });
+}
+
+void InputMessage::TakeFormat(const Statement& statement) {
+    if (FBytes.empty() || FFormat) return;
+    FFormat = statement.InputFormat();
+    FFormat->addRef();
 }
 
 void InputMessage::SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMetadataBuilder& builder) {

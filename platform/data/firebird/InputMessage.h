@@ -64,6 +64,7 @@ class InputMessage {
         static Part OfBlob(const QByteArray& bytes) { return {kBlobType, 0, bytes, false, true, false}; }
     };
 
+    void TakeFormat(const Statement& statement);
     Part PartOf(size_t place, const ColumnInfo& described, const InputValue& value);
     static Part DecimalPart(const Decimal& value);
     Part TextPart(size_t place, const ColumnInfo& described, const UnicodeString& text);
@@ -71,6 +72,7 @@ class InputMessage {
     void Lay(Firebird::ThrowStatusWrapper& status);
 
     Attachment& FAttachment;
+    bool FPlain = false;  // laid out as the statement describes it; there are no parts
     std::vector<Part> FParts;
     std::optional<fichario::Misfit> FMisfit;
     Firebird::IMessageMetadata* FFormat = nullptr;

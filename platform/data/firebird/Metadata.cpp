@@ -19,7 +19,7 @@ const UnicodeString kColumnSql =
     u"SELECT rf.RDB$FIELD_NAME, COALESCE(rf.RDB$NULL_FLAG, 0) + COALESCE(f.RDB$NULL_FLAG, 0), "
     u"IIF(rf.RDB$DEFAULT_SOURCE IS NULL AND f.RDB$DEFAULT_SOURCE IS NULL, 0, 1), "
     u"IIF(f.RDB$COMPUTED_BLR IS NULL AND COALESCE(rf.RDB$UPDATE_FLAG, 1) <> 0, 0, 1), "
-    u"IIF(rf.RDB$IDENTITY_TYPE IS NULL, 0, 1) "
+    u"IIF(rf.RDB$IDENTITY_TYPE IS NULL, 0, 1), COALESCE(f.RDB$CHARACTER_SET_ID, 0) "
     u"FROM RDB$RELATION_FIELDS rf JOIN RDB$FIELDS f ON f.RDB$FIELD_NAME = rf.RDB$FIELD_SOURCE "
     u"WHERE rf.RDB$RELATION_NAME = ?"_s;
 
@@ -41,7 +41,8 @@ TableInfo Metadata::Read(const UnicodeString& name) {
     const RowStore columns = ReadRows(FAttachment, kColumnSql, {{Variant(name)}});
     for (int i = 0; i < columns.Count(); ++i) {
         const auto flag = [&](int column) { return columns.Value(i, column).ToInt() != 0; };
-        table.Columns[columns.Value(i, 0).ToText()] = {flag(1), flag(2), flag(3), flag(4)};
+        table.Columns[columns.Value(i, 0).ToText()] = {flag(1), flag(2), flag(3), flag(4),
+                                                       columns.Value(i, 5).ToInt()};
     }
     return table;
 }

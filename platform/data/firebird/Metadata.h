@@ -11,6 +11,7 @@ struct TableColumn {
     bool HasDefault = false;
     bool Computed = false;  // or otherwise not writable
     bool Identity = false;  // the server numbers it
+    int CharacterSet = 0;   // of a text, by the server's number
 };
 
 struct TableInfo {

@@ -1,5 +1,9 @@
 #include "platform/data/firebird/RecordWriter.h"
 
+#include <algorithm>
+#include "platform/data/firebird/CharacterSets.h"
+#include "platform/data/firebird/ErrorCodes.h"
+#include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/Sql.h"
 
@@ -11,6 +15,12 @@ namespace {
 
 const UnicodeString kAnd = u" AND "_s;
 const UnicodeString kComma = u", "_s;
+constexpr char kNone = 0, kOurs = 1, kServers = 2;  // whose value a column of an insertion gets
+
+// Characters that every set has.
+bool IsPlain(QStringView text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
 
 }  // namespace
 
@@ -30,27 +40,79 @@ void RecordWriter::AddConditions(Work& work) const {
     if (conditions.empty())
         throw EDatabaseError(u"No key field in table '%1': the record cannot be written"_s.arg(FTable));
     for (const WriteColumn& column : FColumns) {
-        if (!column.Write || !column.Compare || column.Key) continue;
+        if (!column.Write || !CanCompare(column) || column.Key) continue;
         conditions.push_back(QuoteIdentifier(column.Name) + u" IS NOT DISTINCT FROM ?"_s);
         work.Bind(column, column.OldValue);
     }
     work.Sql += u" WHERE "_s + Joined(conditions, kAnd);
 }
 
+// The first character of a text that does not reach the column; empty when all do.
+UnicodeString RecordWriter::LostOf(const WriteColumn& column, const Variant& value) const {
+    if (value.Kind() != vkText || IsPlain(value.ToText())) return {};
+    const TableColumn* known = FAttachment.Tables().Table(FTable).Find(column.Name);
+    if (!known) return {};
+    return FirstLost(FAttachment.CharacterSet(), static_cast<unsigned>(known->CharacterSet), value.ToText());
+}
+
+// An old text that cannot be read, or not be sent over this connection, can still be replaced.
+bool RecordWriter::CanCompare(const WriteColumn& column) const {
+    if (!column.Compare || column.OldValue.Kind() == vkBytes) return false;
+    if (column.OldValue.Kind() != vkText) return true;
+    const bool sent = FAttachment.CharacterSet() == kNoSet ||
+                      FirstForeign(FAttachment.Encoding(), column.OldValue.ToText()).isEmpty();
+    return sent && LostOf(column, column.OldValue).isEmpty();
+}
+
+// What the server would lose or refuse without a name on the way from the connection's set to a column's.
+void RecordWriter::CheckCharacters(const Work& work) const {
+    for (size_t i = 0; i < work.Values.size(); ++i) {
+        const UnicodeString lost = LostOf(*work.Places[i], work.Values[i].Value);
+        if (!lost.isEmpty()) RefuseMisfit({i, lost, 0}, work.Places[i]->Label);
+    }
+}
+
+// A value that is missing is told with the label of its field.
+template <class Run>
+int64_t RecordWriter::NamingFields(Run run) const {
+    try {
+        return run();
+    } catch (const EFDError& error) {
+        if (!error.Has(kNotValid)) throw;
+        for (const WriteColumn& column : FColumns) {
+            if (!error.Constraint.endsWith(u".\"%1\""_s.arg(column.Name))) continue;
+            throw error.Saying(
+                u"Entre com um valor para o campo \"%1\" antes de prosseguir."_s.arg(column.Label));
+        }
+        throw;
+    }
+}
+
 int64_t RecordWriter::Execute(const Work& work, RowStore* returned) {
     StatementLease statement = FAttachment.Prepare(work.Sql);
     InputMessage input(FAttachment, statement->Inputs(), work.Values);
     if (const auto& misfit = input.Misfit()) RefuseMisfit(*misfit, work.Places[misfit->Place]->Label);
-    if (returned) *returned = RowStore(RowLayout(statement->Columns()));
+    if (returned && !statement->Columns().empty()) *returned = RowStore(RowLayout(statement->Columns()));
+    CheckCharacters(work);
     WriteScope write(FAttachment);
-    const int64_t changed = statement->Execute(*write.Get(), input, returned);
+    const int64_t changed =
+        NamingFields([&] { return statement->Execute(*write.Get(), input, returned, CallKind::Write); });
     if (!returned && changed == 0) {
         throw EDatabaseError(u"Este registro foi alterado ou excluído por outro usuário."_s);
     }
     if (!returned && changed > 1)
         throw EDatabaseError(u"The key fields of '%1' find several records"_s.arg(FTable));
-    write.Commit();
+    Commit(write);
     return changed;
+}
+
+void RecordWriter::Commit(WriteScope& write) {
+    try {
+        write.Commit();
+    } catch (const EFDError& error) {
+        FInDoubt = !error.ConnectionUsable;
+        throw;
+    }
 }
 
 void RecordWriter::Update() {
@@ -82,25 +144,53 @@ TStringArray RecordWriter::MissingKey() const {
     return names;
 }
 
-std::vector<Variant> RecordWriter::Insert() {
+RecordWriter::Work RecordWriter::InsertWork() const {
     Work work;
-    TStringArray names, marks;
-    for (const WriteColumn& column : FColumns) {
+    work.Values.reserve(FColumns.size());
+    work.Places.reserve(FColumns.size());
+    std::vector<char> named(FColumns.size());
+    for (size_t i = 0; i < FColumns.size(); ++i) {
+        const WriteColumn& column = FColumns[i];
         const bool leftToServer = column.Key && column.Value.IsNull();
-        if (!column.Write || leftToServer) continue;
-        names.push_back(QuoteIdentifier(column.Name));
-        marks.push_back(u"?"_s);
-        work.Bind(column, column.Value);
+        named[i] = leftToServer ? kServers : column.Write ? kOurs : kNone;
+        if (named[i] == kOurs) work.Bind(column, column.Value);
     }
-    work.Sql = u"INSERT INTO "_s + QuoteIdentifier(FTable);
-    work.Sql += names.empty()
-                    ? u" DEFAULT VALUES"_s
-                    : u" ("_s + Joined(names, kComma) + u") VALUES ("_s + Joined(marks, kComma) + u')';
-    const TStringArray missing = MissingKey();
-    if (!missing.empty()) work.Sql += u" RETURNING "_s + Joined(missing, kComma);
-    RowStore returned;
-    Execute(work, &returned);
+    if (!FLast) {
+        work.Sql = InsertSql(named);
+    } else {
+        if (FLast->Named != named || FLast->Table != FTable) *FLast = {FTable, named, InsertSql(named)};
+        work.Sql = FLast->Sql;
+    }
+    return work;
+}
 
+UnicodeString RecordWriter::InsertSql(const std::vector<char>& named) const {
+    TStringArray names, marks;
+    for (size_t i = 0; i < named.size(); ++i) {
+        if (named[i] != kOurs) continue;
+        names.push_back(QuoteIdentifier(FColumns[i].Name));
+        marks.push_back(u"?"_s);
+    }
+    UnicodeString sql = u"INSERT INTO "_s + QuoteIdentifier(FTable);
+    sql += names.empty() ? u" DEFAULT VALUES"_s
+                         : u" ("_s + Joined(names, kComma) + u") VALUES ("_s + Joined(marks, kComma) + u')';
+    const TStringArray missing = MissingKey();
+    return missing.empty() ? sql : sql + u" RETURNING "_s + Joined(missing, kComma);
+}
+
+std::vector<Variant> RecordWriter::Insert() {
+    const Work work = InsertWork();
+    RowStore returned;
+    try {
+        Execute(work, &returned);
+    } catch (const EFDError&) {
+        if (FInDoubt) FDoubtfulKey = KeyOf(returned);
+        throw;
+    }
+    return KeyOf(returned);
+}
+
+std::vector<Variant> RecordWriter::KeyOf(const RowStore& returned) const {
     std::vector<Variant> key;
     int next = 0;
     for (const WriteColumn& column : FColumns) {

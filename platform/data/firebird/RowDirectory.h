@@ -19,7 +19,7 @@ class RowDirectory {
 
     // Before row `row`, 0 to Count().
     void Insert(int row, uint64_t address) {
-        Fit(address);
+        Widen(address);
         if (FIsWide) {
             FWide.insert(FWide.begin() + row, address);
         } else {
@@ -28,7 +28,7 @@ class RowDirectory {
     }
 
     void Set(int row, uint64_t address) {
-        Fit(address);
+        Widen(address);
         const auto index = static_cast<size_t>(row);
         if (FIsWide) {
             FWide[index] = address;
@@ -45,12 +45,18 @@ class RowDirectory {
         }
     }
 
+    // Gives back what is kept for further rows.
+    void Fit() {
+        FNarrow.shrink_to_fit();
+        FWide.shrink_to_fit();
+    }
+
     size_t Bytes() const {
         return FNarrow.capacity() * sizeof(uint32_t) + FWide.capacity() * sizeof(uint64_t);
     }
 
   private:
-    void Fit(uint64_t address) {
+    void Widen(uint64_t address) {
         if (FIsWide || address <= std::numeric_limits<uint32_t>::max()) return;
         FWide.assign(FNarrow.begin(), FNarrow.end());
         FNarrow = {};

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include "platform/data/Errors.h"
 #include "platform/data/firebird/WireTime.h"
+#include "platform/rtl/CodePage.h"
 
 namespace fichario {
 
@@ -106,8 +108,10 @@ RowLayout::Place RowLayout::PlaceOf(const ColumnInfo& column) {
 }
 
 RowLayout::RowLayout(const ColumnList& columns) {
-    FNullBytes = static_cast<uint32_t>(columns.size() + 7) / 8;
+    FNullBytes = static_cast<uint32_t>(columns.size()) / 8 + 1;
     FFixedEnd = FNullBytes;
+    FPlaces.reserve(columns.size());
+    FTexts.reserve(columns.size());
     for (const ColumnInfo& column : columns) {
         Place place = PlaceOf(column);
         if (place.IsText()) {
@@ -126,7 +130,7 @@ RowLayout::RowLayout(const ColumnList& columns) {
 uint8_t* RowLayout::PutText(const Place& place, const uint8_t* text, uint32_t length, uint8_t* out) {
     *out++ = static_cast<uint8_t>(length);
     if (place.Size == 2) *out++ = static_cast<uint8_t>(length >> 8);
-    std::memcpy(out, text, length);
+    std::memmove(out, text, length);
     return out + length;
 }
 
@@ -158,11 +162,28 @@ uint8_t* RowLayout::Pack(const uint8_t* message, uint8_t* row) const {
 
 uint8_t* RowLayout::PackNull(uint8_t* row) const {
     std::memset(row, 0xFF, FNullBytes);
+    row[Columns() >> 3] &= static_cast<uint8_t>(~(1u << (Columns() & 7)));
     uint8_t* end = row + FFixedEnd;
     for (const uint32_t text : FTexts) {
         for (uint8_t i = 0; i < FPlaces[text].Size; ++i) *end++ = 0;
     }
     return end;
+}
+
+uint8_t* RowLayout::PutBytes(const Place& place, const QByteArray& bytes, uint8_t* out) {
+    const auto length = std::min<uint32_t>(static_cast<uint32_t>(bytes.size()), place.Length);
+    return PutText(place, reinterpret_cast<const uint8_t*>(bytes.constData()), length, out);
+}
+
+uint8_t* RowLayout::PutValue(const Place& place, const Variant& value, uint8_t* out) {
+    if (value.IsNull()) return PutText(place, out, 0, out);
+    if (value.Kind() == vkBytes) return PutBytes(place, value.ToBytes(), out);
+    const UnicodeString text = value.ToText();
+    const auto size = static_cast<uint32_t>(text.size());
+    const bool fits = place.Encoding == TextEncoding::Windows1252 && size <= place.Length;
+    if (fits && PutAnsiExact(text, reinterpret_cast<char*>(out) + place.Size))
+        return PutText(place, out + place.Size, size, out);
+    return PutBytes(place, EncodeText(place.Encoding, text).value_or(QByteArray()), out);
 }
 
 uint8_t* RowLayout::PackValues(const std::vector<Variant>& values, uint8_t* row) const {
@@ -173,21 +194,12 @@ uint8_t* RowLayout::PackValues(const std::vector<Variant>& values, uint8_t* row)
         const bool null = values[i].IsNull();
         if (!null) row[i >> 3] &= static_cast<uint8_t>(~(1u << (i & 7)));
         if (place.IsText()) {
-            const QByteArray text =
-                null ? QByteArray() : EncodeText(place.Encoding, values[i].ToText()).value_or(QByteArray());
-            const auto length = std::min<uint32_t>(static_cast<uint32_t>(text.size()), place.Length);
-            texts = PutText(place, reinterpret_cast<const uint8_t*>(text.constData()), length, texts);
+            texts = PutValue(place, values[i], texts);
         } else if (!null) {
             PutFixed(place.Kind, place.Scale, values[i], row + place.Packed);
         }
     }
     return texts;
-}
-
-uint32_t RowLayout::TakeLength(const Place& place, const uint8_t*& at) {
-    const uint32_t length = place.Size == 2 ? Read<uint16_t>(at) : *at;
-    at += place.Size;
-    return length;
 }
 
 size_t RowLayout::Bytes(const uint8_t* row) const {
@@ -199,21 +211,21 @@ size_t RowLayout::Bytes(const uint8_t* row) const {
     return static_cast<size_t>(at - row);
 }
 
-std::span<const uint8_t> RowLayout::Text(const uint8_t* row, int column) const {
-    const uint8_t* at = row + FFixedEnd;
-    for (uint32_t i = 0;; ++i) {
-        const uint32_t length = TakeLength(FPlaces[FTexts[i]], at);
-        if (i == FPlaces[static_cast<size_t>(column)].Packed) return {at, length};
-        at += length;
-    }
-}
-
-Variant RowLayout::Value(const uint8_t* row, int column) const {
+Variant RowLayout::ValueOrBytes(const uint8_t* row, int column) const {
     if (IsNull(row, column)) return Variant::Null();
     const Place& place = FPlaces[static_cast<size_t>(column)];
     if (!place.IsText()) return FixedValue(place.Kind, place.Scale, row + place.Packed);
-    const std::span<const uint8_t> bytes = Text(row, column);
-    return DecodeText(place.Encoding, QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    const std::span<const uint8_t> text = Text(row, column);
+    const QByteArrayView bytes(text.data(), static_cast<qsizetype>(text.size()));
+    if (place.Encoding == TextEncoding::Windows1252) return DecodeText(place.Encoding, bytes);
+    if (std::optional<UnicodeString> decoded = DecodeExact(place.Encoding, bytes)) return *std::move(decoded);
+    return bytes.toByteArray();
+}
+
+Variant RowLayout::Value(const uint8_t* row, int column) const {
+    Variant value = ValueOrBytes(row, column);
+    if (value.Kind() == vkBytes) throw EUnreadableText();
+    return value;
 }
 
 }  // namespace fichario

@@ -1,5 +1,5 @@
-// How a row is kept: a bit for each null column, the values of fixed size at fixed places, then the texts at
-// their real length. A value is decoded when it is read.
+// How a row is kept: a bit for each null column and one that marks the row, the values of fixed size at fixed
+// places, then the texts at their real length. A value is decoded when it is read.
 //
 //     RowLayout layout(statement.Columns());
 //     uint8_t* end = layout.Pack(message, row);
@@ -28,20 +28,34 @@ class RowLayout {
     uint8_t* Pack(const uint8_t* message, uint8_t* row) const;
     // Writes a row whose columns are all null.
     uint8_t* PackNull(uint8_t* row) const;
-    // Packs values as Value gives them, one for each column; a text that is too long or foreign is cut or
-    // null.
+    // Packs values as ValueOrBytes gives them, one for each column; a text that is too long or foreign is cut
+    // or null.
     uint8_t* PackValues(const std::vector<Variant>& values, uint8_t* row) const;
     // The length of a packed row.
     size_t Bytes(const uint8_t* row) const;
 
     bool IsNull(const uint8_t* row, int column) const { return row[column >> 3] >> (column & 7) & 1; }
+    // The mark, which packing leaves unset.
+    bool IsMarked(const uint8_t* row) const { return IsNull(row, Columns()); }
+    void Mark(uint8_t* row) const { row[Columns() >> 3] |= static_cast<uint8_t>(1 << (Columns() & 7)); }
     // The value; null, or that of the column's kind. A blob gives its identity as an integer.
+    // EUnreadableText.
     Variant Value(const uint8_t* row, int column) const;
+    // The same, but a text that cannot be read gives its bytes.
+    Variant ValueOrBytes(const uint8_t* row, int column) const;
     // A text column's bytes in the column's encoding; empty for null.
-    std::span<const uint8_t> Text(const uint8_t* row, int column) const;
+    std::span<const uint8_t> Text(const uint8_t* row, int column) const {
+        const uint8_t* at = row + FFixedEnd;
+        for (uint32_t before = FPlaces[static_cast<size_t>(column)].Packed, i = 0;; ++i) {
+            const uint32_t length = TakeLength(FPlaces[FTexts[i]], at);
+            if (i == before) return {at, length};
+            at += length;
+        }
+    }
     TextEncoding Encoding(int column) const { return FPlaces[static_cast<size_t>(column)].Encoding; }
     TFieldType Type(int column) const { return FPlaces[static_cast<size_t>(column)].Type; }
     bool IsText(int column) const { return FPlaces[static_cast<size_t>(column)].IsText(); }
+    bool IsBlob(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Blob; }
 
   private:
     struct Place {
@@ -60,8 +74,14 @@ class RowLayout {
 
     static Place PlaceOf(const ColumnInfo& column);
     static uint8_t* PutText(const Place& place, const uint8_t* text, uint32_t length, uint8_t* out);
+    static uint8_t* PutBytes(const Place& place, const QByteArray& bytes, uint8_t* out);
+    static uint8_t* PutValue(const Place& place, const Variant& value, uint8_t* out);
     static uint8_t* PackText(const Place& place, const uint8_t* message, bool null, uint8_t* out);
-    static uint32_t TakeLength(const Place& place, const uint8_t*& at);
+    static uint32_t TakeLength(const Place& place, const uint8_t*& at) {
+        uint32_t length = *at++;
+        if (place.Size == 2) length |= uint32_t{*at++} << 8;
+        return length;
+    }
 
     std::vector<Place> FPlaces;
     std::vector<uint32_t> FTexts;  // the text columns, in order

@@ -3,16 +3,18 @@
 #include <limits>
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/Misfits.h"
+#include "platform/data/firebird/WideText.h"
 
 namespace fichario {
 
-RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values) {
+RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
+                  const ColumnList* wide) {
     StatementLease statement = attachment.Prepare(sql);
-    RowStore rows{RowLayout(statement->Columns())};
+    RowStore rows{RowLayout(wide ? WideColumns(*wide, statement->Columns()) : statement->Columns())};
     InputMessage input(attachment, statement->Inputs(), values);
     if (input.Misfit()) return rows;
-    Cursor cursor(attachment.shared_from_this(), std::move(statement), attachment.Reading(), input);
-    cursor.Fetch(rows, std::numeric_limits<int>::max());
+    Cursor(attachment.shared_from_this(), std::move(statement), attachment.Reading(), input, rows,
+           std::numeric_limits<int>::max());
     return rows;
 }
 

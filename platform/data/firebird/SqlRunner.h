@@ -6,7 +6,9 @@
 namespace fichario {
 
 // All rows of a SELECT, read in the transaction that reads happen in; none when a text can match nothing.
-RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values);
+// `wide`: the columns that a wide statement (WideText.h) gives.
+RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
+                  const ColumnList* wide = nullptr);
 
 // Executes any other statement in the host's transaction or a short one of its own. `returned` gets the row
 // of a RETURNING. Returns how many records changed. EDatabaseError, EFDError.

@@ -52,7 +52,7 @@ void Statement::Describe() {
 Statement::~Statement() {
     if (FInputFormat) FInputFormat->release();
     if (FRowFormat) FRowFormat->release();
-    const bool freed = QuietClientCall(CallKind::Close,
+    const bool freed = FAttachment.End(CallKind::Close,
                                        [&](Firebird::ThrowStatusWrapper& status) { FHandle->free(&status); });
     if (!freed) FHandle->release();
 }
@@ -69,14 +69,14 @@ void Statement::DescribeAliases() {
     });
 }
 
-int64_t Statement::Execute(Transaction& transaction, InputMessage& input, RowStore* returned) {
+int64_t Statement::Execute(Transaction& transaction, InputMessage& input, RowStore* returned, CallKind kind) {
     std::vector<uint8_t> row(FColumns.empty() ? 0 : FRowBytes);
     uint64_t changed = 0;
     input.Build(*this, transaction);
-    FAttachment.Call(CallKind::Execute, [&](Firebird::ThrowStatusWrapper& status) {
+    FAttachment.Call(kind, [&](Firebird::ThrowStatusWrapper& status) {
         FHandle->execute(&status, transaction.Handle(), input.Format(), input.Bytes(),
                          row.empty() ? nullptr : FRowFormat, row.empty() ? nullptr : row.data());
-        changed = FHandle->getAffectedRecords(&status);
+        if (!returned) changed = FHandle->getAffectedRecords(&status);
     });
     if (returned && !row.empty()) returned->Append(row.data());
     return static_cast<int64_t>(changed);

@@ -5,6 +5,7 @@
 //     int64_t changed = statement->Execute(*transaction, input);
 #pragma once
 #include <memory>
+#include "platform/data/firebird/ClientCall.h"
 #include "platform/data/firebird/Columns.h"
 #include "platform/data/firebird/Transaction.h"
 
@@ -40,9 +41,10 @@ class Statement {
     // Fills BaseAlias of the columns from the server: for statements on several tables.
     void DescribeAliases();
 
-    // Executes; a single row that comes back (RETURNING) is appended to `returned`. Returns how many records
-    // changed.
-    int64_t Execute(Transaction& transaction, InputMessage& input, RowStore* returned = nullptr);
+    // Executes. Returns how many records changed; with `returned`, which a single row that comes back
+    // (RETURNING) is appended to, the server is not asked for their number, and the result is 0.
+    int64_t Execute(Transaction& transaction, InputMessage& input, RowStore* returned = nullptr,
+                    CallKind kind = CallKind::Execute);
 
     Firebird::IStatement* Handle() const { return FHandle; }
     Firebird::IMessageMetadata* InputFormat() const { return FInputFormat; }

@@ -22,7 +22,7 @@ Transaction::Transaction(Attachment& attachment, Mode mode) : FAttachment(attach
 
 Transaction::~Transaction() {
     if (!FHandle) return;
-    const bool ended = QuietClientCall(
+    const bool ended = FAttachment.End(
         CallKind::Rollback, [&](Firebird::ThrowStatusWrapper& status) { FHandle->rollback(&status); });
     if (!ended) FHandle->release();
 }

@@ -4,7 +4,7 @@
 #include "platform/data/firebird/ClientCall.h"
 #include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/FbErrors.h"
-#include "tests/platform/data/TestDatabase.h"
+#include "tests/platform/data/Script.h"
 
 namespace {
 
@@ -42,41 +42,6 @@ TEST_F(DataTest, ADatabaseThatCannotBeOpenedSaysWhy) {
     EXPECT_EQ(
         MessageOf([&] { FConnection->Open(); }),
         u"Não foi possível abrir o banco de dados %1: conjunto de caracteres desconhecido."_s.arg(Path()));
-}
-
-TEST_F(DataTest, AHostsTransactionBracketsEverything) {
-    TFDConnection* other = Connect();
-    const auto seen = [&] { return other->ExecSQLScalar(u"SELECT COUNT(*) FROM CLIENTE"_s).ToInt(); };
-    TFDQuery* query = Query(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
-    for (const bool commit : {false, true}) {
-        FConnection->StartTransaction();
-        query->Open();
-        query->Append();
-        query->FieldByName(u"NM"_s)->SetAsString(u"novo"_s);
-        query->Post();
-        EXPECT_TRUE(query->FieldByName(u"ID"_s)->AsInteger() > 1000) << "read back inside the transaction";
-        EXPECT_EQ(seen(), 3);
-        EXPECT_EQ(MessageOf([&] { FConnection->StartTransaction(); }), u"A transaction is already active");
-        commit ? FConnection->Commit() : FConnection->Rollback();
-        EXPECT_FALSE(FConnection->InTransaction());
-        query->Close();
-    }
-    EXPECT_EQ(seen(), 4);
-    EXPECT_EQ(MessageOf([&] { FConnection->Commit(); }), u"No transaction is active");
-}
-
-TEST_F(DataTest, CursorsOpenAtATransactionsEndAreReadToTheirEnd) {
-    TFDQuery* before = Open(u"SELECT N FROM NUMEROS ORDER BY N"_s);
-    FConnection->StartTransaction();
-    TFDQuery* inside = Open(u"SELECT N FROM NUMEROS ORDER BY N DESC"_s);
-    Exec(u"INSERT INTO NUMEROS VALUES (1000, 'x')"_s);
-    FConnection->Rollback();
-    EXPECT_TRUE(inside->AllFetched());
-    EXPECT_FALSE(before->AllFetched());
-    before->Last();
-    EXPECT_EQ(before->RowCount(), 500);
-    inside->Refresh();
-    EXPECT_EQ(inside->RecordCount(), 500);
 }
 
 TEST_F(DataTest, AnOpenDatasetHoldsNothingBack) {
@@ -164,50 +129,15 @@ TEST_F(DataTest, AnyClientCallMayFail) {
     }
 }
 
-TEST_F(DataTest, AFailedFetchIsNeverTheEndOfTheData) {
-    TFDQuery* query = Open(u"SELECT N FROM NUMEROS ORDER BY N"_s);
-    {
-        const FailingCall failing(1, fichario::kConnectionLost);
-        EXPECT_EQ(
-            MessageOf([&] { query->Last(); }),
-            u"A conexão com o servidor foi perdida. Os dados digitados foram mantidos; tente novamente.");
-    }
-    EXPECT_FALSE(query->AllFetched());
-    EXPECT_THROW(query->Last(), EFDError);
-    EXPECT_EQ(query->RecNo(), 1);
+TEST_F(ScriptTest, TransactionsAndLostConnections) {
+    std::optional<FailingCall> failing;
     bool lost = false;
-    FConnection->OnLost = [&](TFDCustomConnection*) { lost = true; };
-    query->Refresh();
-    query->Last();
-    EXPECT_TRUE(lost);
-    EXPECT_EQ(query->RecNo(), 500);
-}
-
-TEST_F(DataTest, APostSucceedsOnceALostConnectionIsBack) {
-    TFDQuery* query = Open(u"SELECT * FROM CLIENTE ORDER BY ID"_s);
-    query->Edit();
-    query->FieldByName(u"QTD"_s)->SetAsInteger(77);
-    {
-        const FailingCall failing(3, fichario::kConnectionLost);
-        EXPECT_THROW(query->Post(), EFDError);
-    }
-    EXPECT_EQ(query->State(), dsEdit);
-    query->Post();
-    EXPECT_EQ(query->FieldByName(u"QTD"_s)->AsInteger(), 77);
-    EXPECT_EQ(Scalar(u"SELECT QTD FROM CLIENTE WHERE ID = 1"_s), u"77");
-}
-
-TEST_F(DataTest, ALostTransactionMustBeRolledBack) {
-    FConnection->StartTransaction();
-    Exec(u"UPDATE CLIENTE SET QTD = 1"_s);
-    {
-        const FailingCall failing(1, fichario::kConnectionLost);
-        EXPECT_THROW(Exec(u"UPDATE CLIENTE SET QTD = 2"_s), EFDError);
-    }
-    EXPECT_THROW(Exec(u"UPDATE CLIENTE SET QTD = 3"_s), EFDError);
-    FConnection->Rollback();
-    EXPECT_EQ(Scalar(u"SELECT QTD FROM CLIENTE WHERE ID = 1"_s), u"3");
-    Exec(u"UPDATE CLIENTE SET QTD = 4"_s);
+    const auto fail = [&](const QStringList& a) {
+        failing.emplace(a[0].toInt(), fichario::kConnectionLost);
+        FConnection->OnLost = [&](TFDCustomConnection*) { lost = true; };
+        return QString();
+    };
+    Run("transacoes", {{"Fail", fail}, {"Lost", [&](const QStringList&) { return lost ? "yes" : "no"; }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include <QFile>
 #include <QProcess>
 #include "platform/data/firebird/ClientCall.h"
-#include "tests/platform/data/TestDatabase.h"
+#include "tests/platform/data/Script.h"
 
 namespace {
 
@@ -46,119 +46,51 @@ TEST_F(ServerOnly, SaysWhyItCannotBeReached) {
 }
 
 // A server that a test may kill.
-class Mortal : public ::testing::Test {
+class Mortal : public ScriptTest {
   protected:
     void SetUp() override {
         if (!OnServer()) GTEST_SKIP() << "needs a server";
         Server("start");
-        TStrings& params = *Connection->Params();
+        FRoot = new TComponent(nullptr);
+        FConnection = new TFDConnection(FRoot);
+        TStrings& params = *FConnection->Params();
         QFile port(Folder.filePath(u"s/porta"_s));
         ASSERT_TRUE(port.open(QIODevice::ReadOnly));
         params.SetText(u"Protocol=TCPIP\nUser_Name=SYSDBA\nPassword=teste\nForcedWrites=True"_s);
         params.SetValue(u"Server"_s, u"127.0.0.1/"_s + QString::fromLatin1(port.readAll().trimmed()));
         params.SetValue(u"Database"_s, Folder.filePath(u"s/db/t.fdb"_s));
-        Connection->CreateDatabase();
-        Connection->ExecSQL(u"CREATE TABLE T (N INTEGER NOT NULL PRIMARY KEY, T VARCHAR(200))"_s);
-        Connection->ExecSQL(
+        FConnection->CreateDatabase();
+        Exec(u"CREATE TABLE T (N INTEGER NOT NULL PRIMARY KEY, T VARCHAR(200))"_s);
+        Exec(
             u"EXECUTE BLOCK AS DECLARE I INTEGER = 0; BEGIN WHILE (I < 20000) DO BEGIN "
             u"INSERT INTO T VALUES (:I, LPAD('x', 200, 'x')); I = I + 1; END END"_s);
-        Query->SetConnection(Connection);
-        Query->SQL()->SetText(u"SELECT * FROM T ORDER BY N"_s);
-        Query->Open();
+        FQuery = Open(u"SELECT * FROM T ORDER BY N"_s);
     }
     void TearDown() override {
         fichario::SetClientCallHook(nullptr);
-        Connection->Free();
-        if (OnServer()) Server("stop");
+        if (!OnServer()) return;
+        FRoot->Free();
+        Server("stop");
     }
-    void Server(const char* action) {
-        ASSERT_EQ(QProcess::execute(QStringLiteral(SERVER_SCRIPT),
-                                    {QString::fromLatin1(action), Folder.filePath(u"s"_s)}),
-                  0);
-    }
-    UnicodeString Failure(const std::function<void()>& work) {
-        try {
-            work();
-        } catch (const EFDError& error) {
-            EXPECT_FALSE(error.ConnectionUsable);
-            return error.Message;
-        }
-        return {};
-    }
-    UnicodeString Stored(int n) {
-        return Connection->ExecSQLScalar(u"SELECT T FROM T WHERE N = :N"_s, {n}).ToText();
+    void Server(const QString& action) {
+        ASSERT_EQ(QProcess::execute(QStringLiteral(SERVER_SCRIPT), {action, Folder.filePath(u"s"_s)}), 0);
     }
 
-    const UnicodeString kLost =
-        u"A conexão com o servidor foi perdida. Os dados digitados foram mantidos; tente novamente."_s;
     QTemporaryDir Folder;
-    TFDConnection* Connection = new TFDConnection(nullptr);
-    TFDQuery* Query = new TFDQuery(Connection);
 };
 
-TEST_F(Mortal, KeepsWhatWasTypedAndSavesItOnceAfterwards) {
-    for (const bool insert : {false, true}) {
-        SCOPED_TRACE(insert);
-        if (insert) {
-            Query->Refresh();  // its rows were cut off with the server
-            Query->Append();
-            Query->FieldByName(u"N"_s)->SetAsInteger(90000);
-        } else {
-            Query->Edit();
-        }
-        Query->FieldByName(u"T"_s)->SetAsString(u"novo"_s);
-        Server("kill");
-        EXPECT_EQ(Failure([&] { Query->Post(); }), kLost);
-        EXPECT_EQ(Query->State(), insert ? dsInsert : dsEdit);
-        EXPECT_EQ(Query->FieldByName(u"T"_s)->AsString(), u"novo"_s);
-        EXPECT_FALSE(Failure([&] { Query->Post(); }).isEmpty()) << "still down";
-        Server("restart");
-        Query->Post();
-        EXPECT_EQ(Stored(insert ? 90000 : 0), u"novo"_s);
-        EXPECT_EQ(Connection->ExecSQLScalar(u"SELECT COUNT(*) FROM T WHERE T = 'novo'"_s).ToInt(),
-                  insert ? 2 : 1);
-    }
-}
-
-TEST_F(Mortal, NeverTakesAFailureForTheEndOfTheData) {
-    Server("kill");
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        EXPECT_FALSE(Failure([&] { Query->Last(); }).isEmpty());
-        EXPECT_FALSE(Query->AllFetched());
-    }
-    EXPECT_GT(Query->RowCount(), 0);
-    Server("restart");
-    Query->Refresh();
-    Query->Last();
-    EXPECT_EQ(Query->RowCount(), 20000);
-}
-
-TEST_F(Mortal, AHostsTransactionIsLostAsAWhole) {
-    Connection->StartTransaction();
-    Connection->ExecSQL(u"UPDATE T SET T = 'a' WHERE N = 1"_s);
-    Server("kill");
-    EXPECT_FALSE(Failure([&] { Connection->ExecSQL(u"UPDATE T SET T = 'a' WHERE N = 2"_s); }).isEmpty());
-    EXPECT_TRUE(Connection->InTransaction());
-    Connection->Rollback();
-    Server("restart");
-    EXPECT_NE(Stored(1), u"a"_s);
-    EXPECT_NE(Stored(2), u"a"_s);
-}
-
-// Killed after the statement was executed, just as its commit begins.
-TEST_F(Mortal, ALostCommitIsSavedOnceByTheNextPost) {
-    Query->Edit();
-    Query->FieldByName(u"T"_s)->SetAsString(u"novo"_s);
-    bool killed = false;
-    fichario::SetClientCallHook([&](fichario::CallKind kind) {
-        if (kind == fichario::CallKind::Commit && !std::exchange(killed, true)) Server("kill");
-    });
-    EXPECT_FALSE(Failure([&] { Query->Post(); }).isEmpty());
-    EXPECT_TRUE(killed);
-    EXPECT_EQ(Query->State(), dsEdit);
-    Server("restart");
-    Query->Post();
-    EXPECT_EQ(Stored(0), u"novo"_s);
+TEST_F(Mortal, LosesNothingWhenItDies) {
+    const auto server = [&](const QStringList& a) { return Server(a[0]), QString(); };
+    const auto killAtCommit = [&](const QStringList&) {
+        fichario::SetClientCallHook([&, killed = false](fichario::CallKind kind) mutable {
+            if (kind == fichario::CallKind::Commit && !std::exchange(killed, true)) Server("kill");
+        });
+        return QString();
+    };
+    const auto down = [&](const QStringList& a) {
+        return MessageOf([&] { Do(a); }).startsWith(u"lost: ") ? "yes" : "no";
+    };
+    Run("queda", {{"Server", server}, {"KillAtCommit", killAtCommit}, {"Down", down}});
 }
 
 }  // namespace

@@ -44,6 +44,8 @@ TEST(RowStore, KeepsRowsOfAnyLength) {
             if (i == 50) message.back() = ' ';
             store.Append(message.data());
         }
+        store.Fit();
+        EXPECT_LT(store.Bytes(), 100 * (texts * kLength + 100) * 5 / 4) << "memory kept for nothing";
         store.InsertNull(0);
         EXPECT_TRUE(store.Value(0, 0).IsNull() && store.Value(0, last).IsNull());
         for (int i = 1; i < store.Count(); ++i) {
@@ -56,6 +58,10 @@ TEST(RowStore, KeepsRowsOfAnyLength) {
         store.CopyRow(4, store, 3);
         EXPECT_TRUE(store.Value(4, 0).IsNull());
         EXPECT_EQ(store.Value(4, last), Variant(u"é"_s));
+        store.SetOutdated(4);
+        EXPECT_TRUE(store.IsOutdated(4) && !store.IsOutdated(3) && !store.IsOutdated(0));
+        store.CopyRow(4, store, 3);
+        EXPECT_FALSE(store.IsOutdated(4));
     }
 }
 

@@ -31,7 +31,7 @@ class DataTest : public ::testing::Test {
     TFDQuery* Open(const UnicodeString& sql, TFDConnection* connection = nullptr);
     UnicodeString Scalar(const UnicodeString& sql) { return FConnection->ExecSQLScalar(sql).ToText(); }
     void Exec(const UnicodeString& sql) { FConnection->ExecSQL(sql); }
-    UnicodeString Path() const { return FFolder.filePath(u"teste.fdb"_s); }
+    UnicodeString Path() const { return FFolder.filePath(u"teste%1.fdb"_s.arg(FCase)); }
     UnicodeString InFolder(const UnicodeString& name) const { return FFolder.filePath(name); }
 
     // The message of what `work` throws; empty when it throws nothing.
@@ -46,6 +46,7 @@ class DataTest : public ::testing::Test {
     }
 
     QTemporaryDir FFolder;
+    int FCase = 0;  // how often a new database was begun
     TComponent* FRoot = nullptr;
     TFDConnection* FConnection = nullptr;
 };

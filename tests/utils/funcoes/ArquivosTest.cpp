@@ -153,27 +153,30 @@ TEST_F(Arquivos, SettingsAreTextsByPathAndName) {
     qunsetenv("XDG_CONFIG_HOME");
 }
 
+// A name of this run's own: programs are found by it in the whole system.
 TEST_F(Arquivos, ProgramsAreStartedFoundAndEnded) {
-    ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, Path(u"Dorme"_s)));
-    EXPECT_EQ(OpenExecAndWait(Path(u"Dorme.exe"_s), u"0"_s, SW_SHOWNORMAL), 0);
+    const UnicodeString name = u"Dorme%1"_s.arg(getpid()), program = Path(name + u".exe"_s);
+    ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, Path(name)));
+    EXPECT_EQ(OpenExecAndWait(program, u"0"_s, SW_SHOWNORMAL), 0);
     EXPECT_EQ(OpenExecAndWait(Path(u"nada.exe"_s), {}, SW_SHOWNORMAL), -1);
     EXPECT_THROW(OpenExec(Path(u"nada.exe"_s), {}), EOSError);
-    OpenExec(Path(u"Dorme.exe"_s), u"30"_s);
+    OpenExec(program, u"30"_s);
     int pid = 0;
-    EXPECT_TRUE(FindProcess(u"C:\\qualquer\\DORME.EXE"_s, pid));
-    EXPECT_EQ(FindProcessEx(Path(u"dorme.exe"_s)), pid);
-    EXPECT_EQ(FindProcessEx(u"/outra/dorme"_s), 0);
+    EXPECT_TRUE(FindProcess(u"C:\\qualquer\\"_s + name.toUpper() + u".EXE"_s, pid));
+    EXPECT_EQ(FindProcessEx(Path(name.toLower() + u".exe"_s)), pid);
+    EXPECT_EQ(FindProcessEx(u"/outra/"_s + name), 0);
     KillProcess({});
-    KillProcess(u"dorme.exe"_s);
+    KillProcess(name.toLower() + u".exe"_s);
     EXPECT_TRUE(HasEnded(pid, 5000));
-    EXPECT_FALSE(FindProcess(u"Dorme"_s, pid));
+    EXPECT_FALSE(FindProcess(name, pid));
     EXPECT_FALSE(GetComputerNameFunc().isEmpty());
     EXPECT_FALSE(GetSys32Dir().endsWith(u'/'));
 }
 
 // A tool that outlives the program must not hold its files and locks.
 TEST_F(Arquivos, ProgramsInheritNoFiles) {
-    TNamedMutex held(u"teste herança"_s);
+    const UnicodeString lock = u"teste herança %1"_s.arg(getpid());
+    TNamedMutex held(lock);
     ASSERT_TRUE(held.TryLock());
     QFile open(Path(u"aberto"_s));
     ASSERT_TRUE(open.open(QIODevice::WriteOnly));
@@ -184,7 +187,7 @@ TEST_F(Arquivos, ProgramsInheritNoFiles) {
         targets << entry.symLinkTarget();
     EXPECT_FALSE(targets.join(u' ').contains(u"aberto"_s) || targets.join(u' ').contains(u"trava-"_s))
         << targets.join(u' ').toStdString();
-    TNamedMutex other(u"teste herança"_s);
+    TNamedMutex other(lock);
     EXPECT_FALSE(other.TryLock());
     held.Unlock();
     EXPECT_TRUE(other.TryLock());

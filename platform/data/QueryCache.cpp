@@ -1,0 +1,118 @@
+// A query's records kept back until they are written together.
+#include "platform/data/Field.h"
+#include "platform/data/firebird/Cursor.h"
+#include "platform/data/firebird/RecordWriter.h"
+#include "platform/data/PreparedQuery.h"
+#include "platform/data/Query.h"
+#include "platform/data/UpdateLog.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace fichario;
+
+void TFDCustomQuery::SetCachedUpdates(bool cached) {
+    if (cached == CachedUpdates()) return;
+    if (Active()) throw EDatabaseError(u"Cannot perform this operation on an open dataset"_s);
+    FLog = cached ? std::make_unique<UpdateLog>() : nullptr;
+}
+
+bool TFDCustomQuery::UpdatesPending() const {
+    return FLog && !FLog->Empty();
+}
+
+void TFDCustomQuery::RequireNoPending() const {
+    if (UpdatesPending()) throw EDatabaseError(u"The dataset has updates that are not applied"_s);
+}
+
+void TFDCustomQuery::CommitUpdates() {
+    if (FLog && FLog->Applied()) FLog->Clear();
+}
+
+void TFDCustomQuery::CancelUpdates() {
+    Close();
+    Open();
+}
+
+std::vector<Variant> TFDCustomQuery::ValuesOf(int row) const {
+    std::vector<Variant> values;
+    for (int i = 0; i < FieldCount(); ++i) values.push_back(Rows().ValueOrBytes(row, i));
+    return values;
+}
+
+// ---- keeping back ----
+
+void TFDCustomQuery::LogPost() {
+    std::vector<Variant> values = ValuesOf(CurrentRow());
+    for (int i = 0; i < FieldCount(); ++i) {
+        if (!Rows().Layout().IsBlob(i)) {
+            values[static_cast<size_t>(i)] = EditedValue(i);
+        } else if (IsChanged(i)) {
+            throw EDatabaseError(
+                u"Cached updates cannot change the blob '%1'"_s.arg(FieldOfColumn(i)->FieldName()));
+        }
+    }
+    const uint64_t from = Rows().Address(CurrentRow());
+    std::vector<Variant> before = ValuesOf(CurrentRow());
+    Rows().SetValues(CurrentRow(), values);
+    const uint64_t to = Rows().Address(CurrentRow());
+    if (State() == dsInsert) return FLog->TakeInserted(to);
+    FLog->TakeChanged(from, to, std::move(before));
+}
+
+void TFDCustomQuery::LogDelete() {
+    FLog->TakeDeleted(Rows().Address(CurrentRow()), ValuesOf(CurrentRow()));
+}
+
+// ---- writing ----
+
+void TFDCustomQuery::ApplyUpdates() {
+    CheckBrowseMode();
+    if (!UpdatesPending()) return;
+    RequireWriting();
+    WriteDeleted();
+    for (int row = 0; row < Rows().Count(); ++row) {
+        if (!FLog->Find(Rows().Address(row))) continue;
+        try {
+            WritePending(row);
+        } catch (const EDatabaseError&) {
+            MoveToRow(row);
+            throw;
+        }
+    }
+    FLog->SetApplied();
+}
+
+void TFDCustomQuery::WriteDeleted() {
+    for (const std::vector<Variant>& before : FLog->Deleted()) {
+        std::vector<WriteColumn> columns = TableColumns();
+        for (WriteColumn& column : columns) {
+            column.Write = false;
+            column.Value = column.OldValue = before[static_cast<size_t>(column.Column)];
+        }
+        RecordWriter(*FPrepared->On(), UpdateTable(), columns).Delete();
+    }
+}
+
+void TFDCustomQuery::WritePending(int row) {
+    const PendingRow& pending = *FLog->Find(Rows().Address(row));
+    std::vector<WriteColumn> columns = TableColumns();
+    bool some = pending.New;
+    for (WriteColumn& column : columns) {
+        column.Value = Rows().ValueOrBytes(row, column.Column);
+        if (!pending.New) column.OldValue = pending.Before[static_cast<size_t>(column.Column)];
+        column.Write = column.Write && column.Value != column.OldValue;
+        some = some || column.Write;
+    }
+    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
+    if (!some) return;
+    if (!pending.New) return writer.Update();
+
+    const std::vector<Variant> key = writer.Insert();
+    std::vector<Variant> values = ValuesOf(row);
+    size_t next = 0;
+    for (const WriteColumn& column : columns) {
+        if (column.Key) values[static_cast<size_t>(column.Column)] = key[next++];
+    }
+    const uint64_t from = Rows().Address(row);
+    Rows().SetValues(row, values);
+    FLog->TakeChanged(from, Rows().Address(row), {});
+}

@@ -1,0 +1,56 @@
+#include "platform/data/firebird/WideText.h"
+
+#include "platform/data/firebird/CharacterSets.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fichario {
+
+namespace {
+
+constexpr int kBytesOfCharacter = 4;
+constexpr int kMostCharacters = 32765 / kBytesOfCharacter;  // of a VARCHAR in UTF-8
+
+bool IsWidened(const ColumnInfo& column) {
+    if (column.CharacterSet == kNoSet || column.CharacterSet == kOctetsSet) return false;
+    switch (column.Kind) {
+        case WireKind::Text:
+        case WireKind::Varying: return column.Characters <= kMostCharacters;
+        case WireKind::Blob: return column.SubType == 1;
+        default: return false;
+    }
+}
+
+// A CHAR loses its blanks: the bytes of its own would be filled up with zeros.
+UnicodeString WideItem(const ColumnInfo& column, const UnicodeString& name) {
+    if (!IsWidened(column)) return name;
+    if (column.Kind == WireKind::Blob)
+        return u"CAST(CAST(%1 AS BLOB SUB_TYPE TEXT CHARACTER SET UTF8) AS BLOB SUB_TYPE BINARY)"_s.arg(name);
+    const UnicodeString wide =
+        u"CAST(%1 AS VARCHAR(%2) CHARACTER SET UTF8)"_s.arg(name).arg(column.Characters);
+    return u"CAST(%1 AS VARCHAR(%2) CHARACTER SET OCTETS)"_s
+        .arg(column.Kind == WireKind::Text ? u"TRIM(TRAILING FROM %1)"_s.arg(wide) : wide)
+        .arg(column.Characters * kBytesOfCharacter);
+}
+
+}  // namespace
+
+TStringArray WideItems(const ColumnList& columns) {
+    TStringArray items;
+    for (size_t i = 0; i < columns.size(); ++i) items.push_back(WideItem(columns[i], u"R.C%1"_s.arg(i + 1)));
+    return items;
+}
+
+ColumnList WideColumns(const ColumnList& columns, const ColumnList& described) {
+    ColumnList wide = columns;
+    for (size_t i = 0; i < wide.size(); ++i) {
+        wide[i].Kind = described[i].Kind;
+        wide[i].Length = described[i].Length;
+        wide[i].Offset = described[i].Offset;
+        wide[i].NullOffset = described[i].NullOffset;
+        if (IsWidened(columns[i])) wide[i].Encoding = TextEncoding::Utf8Signs;
+    }
+    return wide;
+}
+
+}  // namespace fichario
