@@ -1,7 +1,16 @@
 #include "modules/Umoduleinterface.h"
 
+namespace {
+
+int NextNumber() {
+    static int last = 0;
+    return ++last;
+}
+
+}  // namespace
+
 TModuleInstance::TModuleInstance(TModuleInterface* host, TModuleInfo info)
-    : FInterface(host), FInfo(std::move(info)) {}
+    : FInterface(host), FInfo(std::move(info)), FNumber(NextNumber()) {}
 
 UnicodeString TModuleInstance::ModuleResources() const {
     return FResources.isEmpty() && FInterface ? FInterface->HostResources() : FResources;

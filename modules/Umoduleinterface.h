@@ -78,6 +78,8 @@ class TModuleInstance {
     const UnicodeString& Caption() const { return FInfo.Caption; }
     const TModuleInfo& Info() const { return FInfo; }
     TModuleInterface* Interface() const { return FInterface; }
+    // Tells the program's instances apart, from 1 in the order of their birth; companion programs get it.
+    int Number() const { return FNumber; }
 
     // Folder of the module's own resources; the host's until another is set.
     UnicodeString ModuleResources() const;
@@ -111,6 +113,7 @@ class TModuleInstance {
   private:
     TModuleInterface* FInterface;
     TModuleInfo FInfo;
+    int FNumber;
     UnicodeString FResources;
     std::set<UnicodeString> FRights;
     bool FAllRights = true;

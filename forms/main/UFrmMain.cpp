@@ -30,6 +30,7 @@ void TFrmMain::CreateControls() {
     TForm::CreateControls();
     SetMinWidth(800);
     SetMinHeight(600);
+    SetPosition(poScreenCenter);
     FMenu = new TMainMenu(this);
     FWindows = FMenu->Items()->AddNew(u"&Janelas"_s);
     FWindows->SetVisible(false);

@@ -4,6 +4,7 @@
 #include "platform/data/DataSource.h"
 #include "platform/rtl/Strings.h"
 #include "platform/ui/DBCtrls.h"
+#include "platform/ui/DBLookup.h"
 #include "platform/ui/StdCtrls.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,16 @@ TDBComboBox* TFicha::Combo(const UnicodeString& fieldName, const TStringArray& i
     return combo;
 }
 
+TDBLookupComboBox* TFicha::LookupCombo(const UnicodeString& fieldName, TDataSource* list,
+                                       const UnicodeString& keyField, const UnicodeString& listField,
+                                       int width) {
+    auto* combo = Place(new TDBLookupComboBox(FOwner), fieldName, width, true);
+    combo->SetListSource(list);
+    combo->SetKeyField(keyField);
+    combo->SetListField(listField);
+    return combo;
+}
+
 TDBCheckBox* TFicha::Check(const UnicodeString& fieldName, int width) {
     auto* check = Place(new TDBCheckBox(FOwner), fieldName, width, false);
     check->SetCaption(FSource->DataSet()->FieldByName(fieldName)->DisplayLabel());
@@ -63,20 +74,30 @@ TButton* TFicha::Lookup(TDBEdit* edit, const std::function<void()>& search) {
     return button;
 }
 
+QRect TFicha::Area(const UnicodeString& caption, int width, int height) {
+    Caption(caption, width);
+    const QRect area(FLeft, FTop + kLabelHeight, width, height);
+    NewRow();
+    FTop += height - kEditHeight;
+    return area;
+}
+
 void TFicha::NewRow() {
     FLeft = kMargin;
     FTop += kRowHeight;
 }
 
+void TFicha::Caption(const UnicodeString& caption, int width) {
+    auto* label = new TLabel(FOwner);
+    label->SetParent(FPage);
+    label->SetCaption(caption);
+    label->SetBounds(FLeft, FTop, width, kLabelHeight);
+}
+
 template <class T>
 T* TFicha::Place(T* control, const UnicodeString& fieldName, int width, bool labelled) {
     const UnicodeString caption = FSource->DataSet()->FieldByName(fieldName)->DisplayLabel();
-    if (labelled) {
-        auto* label = new TLabel(FOwner);
-        label->SetParent(FPage);
-        label->SetCaption(caption);
-        label->SetBounds(FLeft, FTop, width, kLabelHeight);
-    }
+    if (labelled) Caption(caption, width);
     control->SetName(u"Db"_s + fieldName);
     control->SetParent(FPage);
     control->SetBounds(FLeft, FTop + kLabelHeight, width, kEditHeight);

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <functional>
+#include <QRect>
 
 #include "platform/rtl/Types.h"
 
@@ -22,6 +23,7 @@ class TDataSource;
 class TDBCheckBox;
 class TDBComboBox;
 class TDBEdit;
+class TDBLookupComboBox;
 
 class TFicha {
   public:
@@ -39,6 +41,10 @@ class TFicha {
     // A labelled list of `items` to choose from.
     TDBComboBox* Combo(const UnicodeString& fieldName, const TStringArray& items, int width);
 
+    // A labelled choice of one row of `list`: the field takes its `keyField`, the user sees its `listField`.
+    TDBLookupComboBox* LookupCombo(const UnicodeString& fieldName, TDataSource* list,
+                                   const UnicodeString& keyField, const UnicodeString& listField, int width);
+
     // A check box that stores 'S' and 'N'; its caption stands beside it, on the line of the edits.
     TDBCheckBox* Check(const UnicodeString& fieldName, int width);
 
@@ -46,10 +52,14 @@ class TFicha {
     // the same as the button, where Tab does not stop.
     TButton* Lookup(TDBEdit* edit, const std::function<void()>& search);
 
+    // A captioned area over whole rows for a control that the ficha does not make; goes on below it.
+    QRect Area(const UnicodeString& caption, int width, int height);
+
     // Goes on below, at the left margin.
     void NewRow();
 
   private:
+    void Caption(const UnicodeString& caption, int width);
     template <class T>
     T* Place(T* control, const UnicodeString& fieldName, int width, bool labelled);
 

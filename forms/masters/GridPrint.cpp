@@ -6,12 +6,16 @@
 #include "forms/browse/UGrid_Master.h"
 #include "platform/data/DataSet.h"
 #include "platform/rtl/IniFile.h"
+#include "platform/rtl/NumberText.h"
+#include "platform/system/Paths.h"
+#include "utils/funcoes/Sistema.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int kMostLetters = 50;
+const UnicodeString kPrintArgument = u"-o528"_s;  // the module's number follows at once
 
 // Nothing for fields of other kinds.
 UnicodeString DisplayFormatOf(const TField* field) {
@@ -52,4 +56,14 @@ void WritePrintDefinition(TFrmGrid_Master& form, bool landscape, const UnicodeSt
     file.WriteInteger(u"INFORMATION"_s, u"Model"_s, landscape ? 1 : 0);
     file.WriteInteger(u"INFORMATION"_s, u"Count"_s, count);
     for (int i = 0; i < count; ++i) WriteColumn(file, form, i);
+}
+
+void PrintGrid(TFrmGrid_Master& form, bool landscape) {
+    const UnicodeString rows = JoinPath(ProgramFolder(), kPrintRows);
+    const UnicodeString definition = JoinPath(ProgramFolder(), kPrintDefinition);
+    QFile::remove(rows);
+    QFile::remove(definition);
+    form.MainDS->DataSet()->SaveToFile(rows);
+    WritePrintDefinition(form, landscape, definition);
+    OpenExec(JoinPath(ProgramFolder(), kPrintProgram), kPrintArgument + IntToStr(form.Module->Number()));
 }

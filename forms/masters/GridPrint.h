@@ -1,11 +1,12 @@
-// What a grid form hands to the printing program: a file that describes the columns, beside the file with the
-// rows.
+// Printing a grid: two files in the program's folder, one with the rows and one that describes the columns,
+// and the program that prints them, which nobody waits for.
 //
-//     WritePrintDefinition(*this, Paisagem1->Checked(), JoinPath(ProgramFolder(), u"repvwi.dat"));
+//     PrintGrid(*this, Paisagem1->Checked());
 //
-// An INI file. Section INFORMATION: Name (the form's caption), Model (0 portrait, 1 landscape), Count (of
-// columns). One section FIELD_nn for each column in the grid's order: FieldName, DisplayLabel (the title),
-// DisplayFormat (numbers and dates), DisplayWidth (characters), EditMask (only where there is one), Visible.
+// The rows are a rows file (platform/data/RowsFile.h). The description is an INI file. Section INFORMATION:
+// Name (the form's caption), Model (0 portrait, 1 landscape), Count (of columns). One section FIELD_nn for
+// each column in the grid's order: FieldName, DisplayLabel (the title), DisplayFormat (numbers and dates),
+// DisplayWidth (characters), EditMask (only where there is one), Visible.
 #pragma once
 
 #include "platform/rtl/Types.h"
@@ -17,6 +18,10 @@ class TFrmGrid_Master;
 inline constexpr QStringView kPrintRows = u"repvw.dat";
 inline constexpr QStringView kPrintDefinition = u"repvwi.dat";
 inline constexpr QStringView kPrintProgram = u"GridReport.exe";
+
+// Writes both files in place of old ones and starts the program with the number of the form's module.
+// EInOutError, EOSError; EFDError when rows cannot be read.
+void PrintGrid(TFrmGrid_Master& form, bool landscape);
 
 // Writes the definition in place of an old one. EInOutError.
 void WritePrintDefinition(TFrmGrid_Master& form, bool landscape, const UnicodeString& path);

@@ -5,11 +5,11 @@
 #include <algorithm>
 
 #include "forms/masters/Critica.h"
-#include "forms/masters/Gravacao.h"
 #include "forms/masters/GridRoom.h"
 #include "forms/masters/KeyRecord.h"
 #include "forms/masters/UViz_Master.h"
 #include "platform/data/Query.h"
+#include "platform/data/SaveTogether.h"
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FormatSettings.h"
 #include "platform/ui/Application.h"
@@ -32,6 +32,20 @@ int64_t RecordNumber(const TDataSet& dataSet) {
     const TField* first = dataSet.Fields().empty() ? nullptr : dataSet.Fields().front();
     if (!dynamic_cast<const TNumericField*>(first)) return 0;
     return std::max<int64_t>(first->AsLargeInt(), 0);
+}
+
+// Whether closing would lose something of the dataset. Text that still waits in a control counts: it is
+// written to its field first, and text that the field refuses is a change as well.
+bool HasChanges(TDataSet& dataSet) {
+    const auto* query = dynamic_cast<TFDCustomQuery*>(&dataSet);
+    if (query && query->UpdatesPending()) return true;
+    if (dataSet.State() != dsEdit && dataSet.State() != dsInsert) return false;
+    try {
+        dataSet.UpdateRecord();
+    } catch (const Exception&) {
+        return true;
+    }
+    return dataSet.Modified();
 }
 
 void Reopen(TDataSet& dataSet) {
@@ -168,6 +182,7 @@ void TFrmCad_Master::ConfirmRecord() {
         if (FOnConfirm) FOnConfirm(FMainDataSet, FOperation);
         PostRecord();
     });
+    CommitItems();
     CloseConfirmed();
 }
 
@@ -223,16 +238,20 @@ void TFrmCad_Master::FormClose(TComponent* Sender, TCloseAction& Action) {
     }
 }
 
-// Text that still waits in a control counts: it is written to its field first, and text that the field
-// refuses is a change as well.
 bool TFrmCad_Master::IsModified() const {
-    if (FMainDataSet->State() != dsEdit && FMainDataSet->State() != dsInsert) return false;
-    try {
-        FMainDataSet->UpdateRecord();
-    } catch (const Exception&) {
-        return true;
+    if (HasChanges(*FMainDataSet)) return true;
+    for (int i = 0; i < ComponentCount(); ++i) {
+        auto* dataSet = dynamic_cast<TDataSet*>(Components(i));
+        if (dataSet && HasChanges(*dataSet)) return true;
     }
-    return FMainDataSet->Modified();
+    return false;
+}
+
+// What the host's handlers applied inside the transaction is written now.
+void TFrmCad_Master::CommitItems() const {
+    for (int i = 0; i < ComponentCount(); ++i) {
+        if (auto* query = dynamic_cast<TFDCustomQuery*>(Components(i))) query->CommitUpdates();
+    }
 }
 
 TClosing TFrmCad_Master::Closing() const {

@@ -14,6 +14,10 @@
 //                        the key of the view's current record (for a new record: a key that no record has)
 //   a shared dataset     MainDS shows the view's dataset, edited in place
 //
+// A record with items: the items are a second query of the form, with cached updates (Query.h), on a grid of
+// a page. The host applies them in the record's after-post event, so that all is one transaction, and the
+// form commits them. Closing asks when any dataset of the form would lose something.
+//
 // The form's modes are those of MasterRules.h; the mode never changes. Enter, arrows, Page Up, Page Down, F12
 // and Escape work as EditKeys.h tells.
 #pragma once
@@ -125,6 +129,7 @@ class TFrmCad_Master : public TFrmBase {
     void CloseConfirmed();
     void ShowPageOf(TControl* Control);
     bool IsModified() const;
+    void CommitItems() const;
     TFrmViz_Master* OwnerView() const;
     bool SharesDataSet() const;
     TClosing Closing() const;

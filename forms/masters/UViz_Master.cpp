@@ -1,7 +1,9 @@
 #include "forms/masters/UViz_Master.h"
 
 #include "db/Filtro.h"
+#include "forms/base/UWaitScreen.h"
 #include "forms/browse/UPesquisa.h"
+#include "forms/masters/GridPrint.h"
 #include "forms/masters/MasterRules.h"
 #include "forms/masters/UVizFields.h"
 #include "platform/data/DataSet.h"
@@ -145,6 +147,22 @@ void TFrmViz_Master::BtnExcluirClick(TComponent*) {
     FinishSearch();
     if (CurrentIsDeleted()) throw Exception(u"Esse registro já foi excluído."_s);
     CreateCad(kExcluir);
+}
+
+void TFrmViz_Master::BtnImprimirClick(TComponent*) {
+    FinishSearch();
+    if (!HasRecords()) {
+        Application->MessageBox(u"Não existe nenhum registro a ser impresso."_s, u"Informação"_s,
+                                MB_ICONINFORMATION);
+        Abort();
+    }
+    auto* wait = NewForm<TFrmWaitScreen>(Application);
+    Module->Interface()->ExecuteProcEx(
+        wait, [this] { PrintGrid(); }, this);
+}
+
+void TFrmViz_Master::PrintGrid() {
+    ::PrintGrid(*this, Paisagem1->Checked());
 }
 
 void TFrmViz_Master::DBGrdKeyPress(TComponent*, WideChar& Key) {

@@ -16,7 +16,7 @@
 // created and saved when it is destroyed (GridConfig.h).
 //
 // The filter dialog (UPesquisa.h; not in vtList mode) and the field dialog (UVizFields.h) are opened from its
-// menus. Printing is not offered: BtnImprimir and Imprimir1 exist by name but are not visible.
+// menus. Printing hands the rows and the grid's layout to the printing program (GridPrint.h).
 #pragma once
 
 #include "forms/base/HeaderStrip.h"
@@ -83,6 +83,10 @@ class TFrmViz_Master : public TFrmGrid_Master {
     void LoadGridConfig();
     int GetColumnWidth(int Column) { return StoredColumnWidth(*this, Column); }
 
+    // Writes the two print files into the program's folder and starts the printing program there, without
+    // waiting for it. EInOutError, EDatabaseError, EOSError when the program cannot be started.
+    void PrintGrid();
+
     // Whether the current record is marked as deleted; false without TF_DEL.
     bool CurrentIsDeleted() const;
 
@@ -127,6 +131,7 @@ class TFrmViz_Master : public TFrmGrid_Master {
     virtual void BtnNovoClick(TComponent* Sender);
     virtual void BtnAlterarClick(TComponent* Sender);
     virtual void BtnExcluirClick(TComponent* Sender);
+    virtual void BtnImprimirClick(TComponent* Sender);
     void ExibirRegistrosExcludos1Click(TComponent* Sender);
     void AumentarFonte1Click(TComponent* Sender);
     void DiminuirFonte1Click(TComponent* Sender);

@@ -75,9 +75,8 @@ void TFrmViz_Master::CreateButtons() {
     BtnNovo = button(u"BtnNovo"_s, u"Novo"_s, &TFrmViz_Master::BtnNovoClick);
     BtnAlterar = button(u"BtnAlterar"_s, u"Alterar"_s, &TFrmViz_Master::BtnAlterarClick);
     BtnExcluir = button(u"BtnExcluir"_s, u"Excluir"_s, &TFrmViz_Master::BtnExcluirClick);
-    BtnImprimir = button(u"BtnImprimir"_s, u"Imprimir"_s, nullptr);
+    BtnImprimir = button(u"BtnImprimir"_s, u"Imprimir"_s, &TFrmViz_Master::BtnImprimirClick);
     BtnBuscar = button(u"BtnBuscar"_s, u"Pesquisa"_s, &TFrmViz_Master::Filtros1Click);
-    BtnImprimir->SetVisible(false);
 }
 
 void TFrmViz_Master::CreateMenu() {
@@ -109,8 +108,7 @@ void TFrmViz_Master::CreateArquivo() {
     Retrato1->SetRadioItem(true);
     Paisagem1->SetRadioItem(true);
     Retrato1->SetChecked(true);
-    Imprimir1 = AddItem(arquivo, u"Imprimir1", u"Imprimir...");
-    Imprimir1->SetVisible(false);
+    Imprimir1 = AddItem(arquivo, u"Imprimir1", u"Imprimir...", &TFrmViz_Master::BtnImprimirClick);
     N2 = AddItem(arquivo, u"N2", u"-");
     Sair1 = AddItem(arquivo, u"Sair1", u"&Sair...", &TFrmViz_Master::Sair1Click);
     Sair1->SetShortCut(ShortCut(VK_F4, ssCtrl));

@@ -53,7 +53,7 @@ class TApplication : public TComponent, public TUserInterface {
     // A closed wait is running.
     bool Waiting() const { return FWaiting > 0; }
     // Escape was typed during the closed wait that is running.
-    bool WaitCancelled() const { return FWaitCancelled; }
+    bool WaitCancelled() const override { return FWaiting > 0 && FWaitCancelled; }
     void CancelWait() { FWaitCancelled = true; }
     // Runs `later` from the event loop after the closed wait, and not when `context` has died by then.
     void AfterWait(QObject* context, std::function<void()> later);

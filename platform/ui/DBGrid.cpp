@@ -215,6 +215,7 @@ void TDBGrid::FetchBelow() {
 // ---- the toolkit's events ----
 
 void TDBGrid::paintEvent(QPaintEvent* event) {
+    if (TDataSet::Busy()) return Application->AfterWait(viewport(), [this] { viewport()->update(); });
     QPainter painter(viewport());
     CalledByPaint([&] {
         TGridPainter rows(*this, painter);
@@ -225,6 +226,7 @@ void TDBGrid::paintEvent(QPaintEvent* event) {
 
 void TDBGrid::resizeEvent(QResizeEvent* event) {
     TWidget::resizeEvent(event);
+    if (TDataSet::Busy()) return Application->AfterWait(this, [this] { RowsChanged(); });
     UpdateScrollBars();
     QueueFetch();
 }
@@ -242,7 +244,7 @@ void TDBGrid::changeEvent(QEvent* event) {
 
 bool TDBGrid::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        CalledByPaint([&] { ShowToolTip(static_cast<QHelpEvent&>(*event)); });
+        if (!TDataSet::Busy()) CalledByPaint([&] { ShowToolTip(static_cast<QHelpEvent&>(*event)); });
         return true;
     }
     return TWidget::viewportEvent(event);

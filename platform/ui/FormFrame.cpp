@@ -200,6 +200,16 @@ void TForm::SetMenu(TMainMenu* menu) {
     LayFrame();
 }
 
+namespace {
+
+constexpr int kTitleRoom = 40;  // what a window manager's title bar takes at most
+
+QRect ScreenRoom() {
+    return QGuiApplication::primaryScreen()->availableGeometry().adjusted(0, kTitleRoom, 0, 0);
+}
+
+}  // namespace
+
 bool TForm::Sizeable() const {
     return FEmbedded && FBorderStyle == bsSizeable && FWindowState == wsNormal;
 }
@@ -214,12 +224,17 @@ QRect TForm::PlaceOver() const {
         return FPosition == poDesigned ? QRect() : parentWidget()->rect();
     }
     if (over) return {over->mapToGlobal(QPoint()), over->size()};
-    return FPosition == poDesigned ? QRect() : QGuiApplication::primaryScreen()->availableGeometry();
+    return FPosition == poDesigned ? QRect() : ScreenRoom();
 }
 
+// On the screen a form is no larger than what there is, so that its caption stays within reach.
 void TForm::PlaceForm() {
     const QRect over = PlaceOver();
     if (over.isNull()) return;
+    if (!FEmbedded && FPosition == poScreenCenter) {
+        const QSize fitting = size().boundedTo(over.size());
+        SetBounds(Left(), Top(), fitting.width(), fitting.height());
+    }
     SetBounds(over.left() + over.width() / 2 - Width() / 2, over.top() + over.height() / 2 - Height() / 2,
               Width(), Height());
 }

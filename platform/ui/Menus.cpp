@@ -98,6 +98,7 @@ void TMenuItem::SetShortCut(int shortCut) {
 
 void TMenuItem::ShowText() {
     FAction->setSeparator(IsSeparator());
+    if (IsSeparator()) return FAction->setText({});  // a text would stand before its line
     const UnicodeString keys = ShortCutToText(FShortCut);
     FAction->setText(keys.isEmpty() ? FCaption : FCaption + u'\t' + keys);
 }

@@ -67,6 +67,8 @@ TEST_F(FilterOnDatabase, FindsWhatTheFieldsSay) {
     } cases[] = {{{nome}, {"an"}, "1 3"},
                  {{nome}, {"*an"}, "1 3 4"},
                  {{nome}, {"o'b"}, "2"},
+                 {{nome}, {"x' OR '1'='1"}, ""},
+                 {{nome}, {"*😀"}, ""},
                  {{valor}, {"3,5"}, "3 4"},
                  {{data}, {"09/03/2024"}, "3"},
                  {{ok}, {"true"}, "1 3"},

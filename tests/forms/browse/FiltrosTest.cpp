@@ -6,6 +6,7 @@
 #include "platform/rtl/DateTime.h"
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FormatSettings.h"
+#include "tests/support/TextTable.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -59,36 +60,29 @@ class Filtros : public testing::Test {
     TField* Value = Field<TBCDField>(u"VL"_s, ftBCD, 1e15);
     TField* Stamp = Field<TSQLTimeStampField>(u"DT"_s, ftTimeStamp);
     TField* Day = Field<TDateField>(u"DIA"_s, ftDate);
-    Variant First = EncodeDate(2024, 1, 31), Last = EncodeDate(2024, 2, 29);
 };
 
 TEST_F(Filtros, BecomeConditionsParametersAndLines) {
-    const struct {
-        TFiltro Filter;
-        const char16_t* Condition;
-        const char16_t* Parameters;
-        const char16_t* Line;
-    } cases[] = {
-        {Filter(Name, 0, u"Ana"_s), u"(NM = :vFILTRO0)", u"vFILTRO0=Ana", u"\"nm\" = 'Ana' "},
-        {Filter(Name, 6, u"ab"_s, {}, 1), u"(NM LIKE :vFILTRO0)", u"vFILTRO0=ab%",
-         u"\"nm\" Começa com 'ab' (Ascendente)"},
-        {Filter(Name, 7, u"ab"_s), u"(NM LIKE '%' ||  :vFILTRO0)", u"vFILTRO0=ab%", u"\"nm\" Contém 'ab' "},
-        {Filter(Name, 9), u"(NM IS NULL)", u"", u"\"nm\" é Nulo  "},
-        {Filter(Name, 10, {}, {}, 2), u"(NM IS NOT NULL)", u"", u"\"nm\" Não é Nulo  (Descendente)"},
-        {Filter(Code, 4, 7), u"(CD >= :vFILTRO0)", u"vFILTRO0=7", u"\"cd\" >= 7 "},
-        {Filter(Day, 8, First, Last), u"(DIA BETWEEN :vFI_INI0 AND :vFI_FIN0)",
-         u"vFI_INI0=31/01/2024,vFI_FIN0=29/02/2024", u"\"dia\" Entre '31/01/2024' e '29/02/2024' "},
-        {Filter(Stamp, 8, First, Last), u"(DT BETWEEN :vFI_INI0 AND :vFI_FIN0)",
-         u"vFI_INI0=31/01/2024,vFI_FIN0=29/02/2024 fim", u"\"dt\" Entre '31/01/2024' e '29/02/2024' "},
-        {Filter(Stamp, 2, First), u"(DT > :vFILTRO0)", u"vFILTRO0=31/01/2024 fim", u"\"dt\" > '31/01/2024' "},
-        {Filter(Stamp, 3, First), u"(DT < :vFILTRO0)", u"vFILTRO0=31/01/2024", u"\"dt\" < '31/01/2024' "},
+    const auto value = [](const QString& text) {
+        TDateTime day;
+        bool number = false;
+        if (const int value = text.toInt(&number); number) return Variant(value);
+        if (text.isEmpty()) return Variant();
+        return TryStrToDate(text, day) ? Variant(day) : Variant(text);
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(QString::fromUtf16(c.Line).toStdString());
-        EXPECT_EQ(CondicaoDosFiltros({}, {c.Filter}), u" WHERE "_s + QString::fromUtf16(c.Condition));
-        EXPECT_EQ(Parameters({c.Filter}).join(u','), QString::fromUtf16(c.Parameters));
-        EXPECT_EQ(TextoDoFiltro(c.Filter), QString::fromUtf16(c.Line));
-    }
+    CheckTextTable(BROWSE_TESTS "/tables/filtros.txt",
+                   {{u"Filter"_s, [&](const QStringList& a) {
+                         for (TField* field : {Name, Code, Stamp, Day}) {
+                             if (field->FieldName() != a[0]) continue;
+                             const TFiltro filter =
+                                 Filter(field, a[1].toInt(), value(a[2]), value(a[3]), a[4].toInt());
+                             EXPECT_EQ(CondicaoDosFiltros({}, {filter}).section(u' ', 0, 1), u" WHERE"_s);
+                             return QStringList{CondicaoDosFiltros({}, {filter}).section(u' ', 2),
+                                                Parameters({filter}).join(u','), TextoDoFiltro(filter)}
+                                 .join(u"; "_s);
+                         }
+                         return u"no such field"_s;
+                     }}});
 }
 
 TEST_F(Filtros, AreNumberedByPlaceAndOrderedByOncePerField) {

@@ -6,9 +6,11 @@
 #include "platform/data/Connection.h"
 #include "platform/data/Query.h"
 #include "platform/rtl/DateTime.h"
+#include "platform/rtl/FormatSettings.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
 #include "tests/support/Screen.h"
+#include "tests/support/ScreenScript.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -73,9 +75,10 @@ class GridMaster : public testing::Test {
   protected:
     void SetUp() override {
         SetProgramFolder(Folder.path());
+        Connection = new TFDConnection(nullptr);
         Connection->Params()->SetText(
             u"Protocol=Local\nUser_Name=SYSDBA\nCharacterSet=ISO8859_1\nForcedWrites=False\nDatabase="_s +
-            Folder.filePath(u"t.fdb"_s));
+            Folder.filePath(u"t%1.fdb"_s.arg(++Databases)));
         Connection->CreateDatabase();
         Connection->ExecSQL(QString::fromUtf8(kTable));
         for (const char* row : kRows) {
@@ -94,32 +97,63 @@ class GridMaster : public testing::Test {
         return form;
     }
     // The names in the grid, in its order.
-    static UnicodeString Names(TFrmTeste* form) {
+    QString Names() const {
         QStringList names;
-        for (form->Query->First(); !form->Query->Eof(); form->Query->Next()) {
-            names << form->Query->FieldByName(u"NM"_s)->AsString();
+        for (Form->Query->First(); !Form->Query->Eof(); Form->Query->Next()) {
+            names << Form->Query->FieldByName(u"NM"_s)->AsString();
         }
         return names.join(u',');
     }
-    static bool Searched(TFrmTeste* form) {
-        return Until([&] { return !form->LookingForRecords; });
+    // The names that a text finds, and whether the table is still there.
+    QString Find(const UnicodeString& text) {
+        Form->EdtPesquisa->SetFocus();
+        Form->EdtPesquisa->SetText(text);
+        Form->FinishSearch();
+        EXPECT_EQ(Connection->ExecSQLScalar(u"SELECT COUNT(*) FROM PESSOA"_s).ToInt(), 6);
+        return Names();
+    }
+    QPoint Title(const QString& column) const {
+        return Form->DBGrd->Geometry().Title(column.toInt()).center();
     }
 
     QTemporaryDir Folder;
-    TFDConnection* Connection = new TFDConnection(nullptr);
+    int Databases = 0;
+    TFDConnection* Connection = nullptr;
+    TFrmTeste* Form = nullptr;
     TModuleInstance Module{nullptr, {u"PESSOAS"_s, u"Pessoas"_s, {}}};
 };
 
-TEST_F(GridMaster, TakesTheOrderFromTheDatasetsTag) {
-    TFrmTeste* form = Open();
-    EXPECT_EQ(form->OrderFieldIndex(), 1);
-    EXPECT_EQ(form->DBGrd->Columns()[1]->Title().Caption(), u"»Nome"_s);
-    EXPECT_EQ(form->GetColumnTitle(1), u"Nome"_s);
-    EXPECT_EQ(form->LbRegCount->Caption(), u"Nenhum registro"_s);
-    form->SetOrderFieldIndex(0);
-    EXPECT_EQ(form->DBGrd->Columns()[1]->Title().Caption(), u"Nome"_s);
-    EXPECT_EQ(Open({.OrderTag = 5})->OrderFieldIndex(), 0);  // no column shows that field
-    EXPECT_EQ(Open({.OrderTag = 99})->OrderFieldIndex(), 0);
+TEST_F(GridMaster, OrdersAndSearches) {
+    using A = QStringList;
+    const auto yes = [](bool is) { return is ? u"yes"_s : u"no"_s; };
+    CheckScreenTable(
+        BROWSE_TESTS "/tables/pesquisa.txt", [&] { return Form->Query; },
+        {{u"Case"_s, Does([&](const A&) { TearDown(), SetUp(); })},
+         {u"Open"_s, Does([&](const A& a) {
+              Form = Open({.VisType = a[0] == u"list" ? vtList : vtFilter, .OrderTag = a[1].toInt()});
+          })},
+         {u"Order"_s, [&](const A&) { return QString::number(Form->OrderFieldIndex()); }},
+         {u"OrderBy"_s, Does([&](const A& a) { Form->SetOrderFieldIndex(a[0].toInt()); })},
+         {u"Title"_s, [&](const A& a) { return Form->GetColumnTitle(a[0].toInt()); }},
+         {u"Opened"_s, [&](const A&) { return QString::number(Form->Opened); }},
+         {u"Looking"_s, [&](const A&) { return yes(Form->LookingForRecords); }},
+         {u"Searched"_s, [&](const A&) { return yes(Until([&] { return !Form->LookingForRecords; })); }},
+         {u"Names"_s, [&](const A&) { return Names(); }},
+         {u"Find"_s, [&](const A& a) { return Find(a[0] == u"long" ? QString(10000, u'x') : a[0]); }},
+         {u"Refresh"_s, Does([&](const A&) { Form->RefreshData(); })},
+         {u"Clear"_s, Does([&](const A&) { Form->ClearSearch(); })},
+         {u"Gap"_s,
+          [&](const A&) {
+              const TPanel& first = *Form->PnPesquisa2;
+              return QString::number(Form->PnPesquisa->Left() - first.Left() - first.Width());
+          }},
+         {u"From"_s, Does([&](const A& a) { Form->Query->SQL()->SetText(u"SELECT * FROM "_s + a[0]); })},
+         {u"ShowDeleted"_s, Does([&](const A&) { Form->SetShowDeleted(true); })},
+         {u"Until"_s, Does([&](const A& a) { Form->DpPesq2->SetDate(StrToDate(a[0])); })},
+         {u"Today"_s, Does([&](const A& a) { SetClock([day = StrToDate(a[0])] { return day; }); })},
+         {u"DragTitle"_s, Does([&](const A& a) { Drag(Form->DBGrd->viewport(), Title(a[0]), Title(a[1])); })},
+         {u"ClickTitle"_s, Does([&](const A& a) { ClickAt(Form->DBGrd->viewport(), Title(a[0])); })},
+         {u"Closed"_s, [&](const A&) { return yes(Until([] { return Application->Forms().empty(); })); }}});
 }
 
 TEST_F(GridMaster, RefusesWhatIsNotBound) {
@@ -132,174 +166,6 @@ TEST_F(GridMaster, RefusesWhatIsNotBound) {
     EXPECT_THROW(form->SetOrderFieldIndex(2), EAbort);
     EXPECT_EQ(form->OrderFieldIndex(), 1);
     EXPECT_EQ(form->PrimaryKey, TStringArray{u"ID"_s});
-}
-
-TEST_F(GridMaster, SearchesOnceAfterTheLastKey) {
-    TFrmTeste* form = Open();
-    Press(VK_F3);
-    EXPECT_TRUE(form->EdtPesquisa->Focused());
-    EXPECT_EQ(form->EdtPesquisa->Text(), u""_s);
-    TypeText(u"joa"_s);
-    EXPECT_TRUE(form->LookingForRecords);
-    EXPECT_EQ(form->Opened, 0);
-    EXPECT_TRUE(form->ImgCancelPesq->Visible());
-    EXPECT_TRUE(Searched(form));  // the real 200 ms
-    EXPECT_EQ(form->Opened, 1);
-    EXPECT_EQ(Names(form), u"Joana,João"_s);
-    EXPECT_EQ(form->LbRegCount->Caption(), u"2 Registros"_s);
-}
-
-TEST_F(GridMaster, GivingTheGridTheFocusSearchesAtOnce) {
-    TFrmTeste* form = Open();
-    form->DBGrd->SetFocus();
-    TypeText(u"m"_s);  // typing on the grid starts a search
-    EXPECT_TRUE(form->EdtPesquisa->Focused());
-    EXPECT_EQ(form->EdtPesquisa->Text(), u"m"_s);
-    Press(VK_RETURN);
-    EXPECT_TRUE(form->DBGrd->Focused());
-    EXPECT_FALSE(form->LookingForRecords);
-    EXPECT_EQ(form->Opened, 1);
-    EXPECT_EQ(Names(form), u"Maria"_s);
-}
-
-TEST_F(GridMaster, EscapeClearsTheSearchAndThenCloses) {
-    TFrmTeste* form = Open();
-    Press(VK_F3);
-    TypeText(u"ana"_s);
-    Searched(form);
-    Press(VK_ESCAPE);
-    EXPECT_EQ(form->EdtPesquisa->Text(), u"Pesquisa (F3)"_s);
-    EXPECT_TRUE(form->EdtPesquisa->Font().italic());
-    EXPECT_TRUE(form->DBGrd->Focused());
-    EXPECT_TRUE(form->Showing());
-    Press(VK_ESCAPE);
-    EXPECT_TRUE(Until([&] { return Application->Forms().empty(); }));
-}
-
-TEST_F(GridMaster, SurvivesHostileSearchTexts) {
-    TFrmTeste* form = Open();
-    const UnicodeString texts[] = {
-        u"o'"_s,       u"'; DROP TABLE PESSOA; --"_s, u"%"_s, u"_"_s, u"*ana"_s, u"ÇÃ€"_s,
-        u"\\\t\r\n"_s, UnicodeString(10000, u'x')};
-    const char16_t* found[] = {
-        u"O'Brien", u"", u"Ana,João,Joana,Maria,O'Brien", u"Ana,João,Joana,Maria,O'Brien", u"Ana,Joana", u"",
-        u"",        u""};
-    for (size_t i = 0; i < std::size(texts); ++i) {
-        SCOPED_TRACE(texts[i].left(30).toStdString());
-        form->EdtPesquisa->SetFocus();
-        form->EdtPesquisa->SetText(texts[i]);
-        form->FinishSearch();
-        QStringList names = Names(form).split(u',');
-        names.sort();
-        QStringList expected = UnicodeString::fromUtf16(found[i]).split(u',');
-        expected.sort();
-        EXPECT_EQ(names, expected) << qPrintable(names.join(u','));
-    }
-    EXPECT_EQ(Connection->ExecSQLScalar(u"SELECT COUNT(*) FROM PESSOA"_s).ToInt(), 6);
-}
-
-TEST_F(GridMaster, SearchesNumbersSingleAndInRanges) {
-    const struct {
-        const char* Case;
-        const char16_t *From, *To, *Found;
-    } cases[] = {{"both boxes empty", u"", u"", u"Ana,João,Joana,O'Brien"},
-                 {"single", u"20", u"", u"João"},
-                 {"range", u"10,5", u"30,25", u"Ana,João,Joana"},
-                 {"nothing", u"1", u"2", u""}};
-    TFrmTeste* form = Open();
-    form->SetOrderFieldIndex(2);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Case);
-        Press(VK_F3);
-        EXPECT_TRUE(form->EdtPesquisa2->Focused());
-        EXPECT_EQ(form->PnPesquisa->Left(), form->PnPesquisa2->Left() + form->PnPesquisa2->Width() + 22);
-        TypeText(UnicodeString::fromUtf16(c.From));
-        Press(VK_RETURN);
-        TypeText(UnicodeString::fromUtf16(c.To));
-        form->RefreshData();
-        EXPECT_EQ(Names(form), UnicodeString::fromUtf16(c.Found));
-        form->ClearSearch();
-        EXPECT_FALSE(form->PnPesquisa2->Visible());
-        EXPECT_EQ(form->PnPesquisa->Width(), 250);
-    }
-}
-
-TEST_F(GridMaster, LetsOnlyNumbersIntoANumericColumn) {
-    TFrmTeste* form = Open();
-    form->SetOrderFieldIndex(2);
-    Press(VK_F3);
-    TypeText(u"a1.2,3-x"_s);
-    EXPECT_EQ(form->EdtPesquisa2->Text(), u"1,23"_s);
-    form->SetOrderFieldIndex(0);
-    Press(VK_F3);
-    TypeText(u"1,2x"_s);
-    EXPECT_EQ(form->EdtPesquisa2->Text(), u"12"_s);
-}
-
-TEST_F(GridMaster, SearchesTheMonthWhenADateColumnIsChosen) {
-    SetClock([] { return EncodeDate(2024, 3, 15); });
-    TFrmTeste* form = Open();
-    form->SetOrderFieldIndex(3);
-    EXPECT_EQ(Names(form), u"Ana,João"_s);  // the deleted one is hidden
-    EXPECT_TRUE(form->DpPesq1->Visible());
-    EXPECT_FALSE(form->EdtPesquisa->Visible());
-    form->SetShowDeleted(true);
-    form->DpPesq2->SetDate(EncodeDate(2024, 4, 1));
-    form->RefreshData();
-    EXPECT_EQ(Names(form), u"Ana,Jorge,João,Joana"_s);
-}
-
-TEST_F(GridMaster, OffersTheValuesOfAPickList) {
-    TFrmTeste* form = Open();
-    form->SetOrderFieldIndex(4);
-    EXPECT_TRUE(form->CbPesquisa->Visible());
-    EXPECT_EQ(form->CbPesquisa->Text(), u"SIM"_s);
-    form->CbPesquisa->SetFocus();
-    Press(VK_DOWN);
-    EXPECT_EQ(Names(form), u"João,Maria"_s);
-    form->SetOrderFieldIndex(1);
-    EXPECT_FALSE(form->CbPesquisa->Visible());
-    EXPECT_TRUE(form->EdtPesquisa->Visible());
-}
-
-TEST_F(GridMaster, ListModeMovesToTheFirstThatBeginsSo) {
-    TFrmTeste* form = Open({.VisType = vtList});
-    const auto current = [&] { return form->Query->FieldByName(u"NM"_s)->AsString(); };
-    EXPECT_TRUE(form->Query->Active());
-    Press(VK_F3);
-    TypeText(u"JOR"_s);
-    EXPECT_EQ(current(), u"Jorge"_s);
-    Press(VK_UP);
-    EXPECT_NE(current(), u"Jorge"_s);
-    Press(VK_F5);
-    EXPECT_EQ(current(), u"Ana"_s);
-    form->EdtPesquisa->SetText(u"m"_s);
-    EXPECT_EQ(current(), u"Maria"_s);
-    form->EdtPesquisa->SetText({});
-    EXPECT_EQ(current(), u"Ana"_s);
-}
-
-TEST_F(GridMaster, ADraggedColumnKeepsTheOrder) {
-    TFrmTeste* form = Open();
-    form->RefreshData();
-    const auto title = [&](int column) { return form->DBGrd->Geometry().Title(column).center(); };
-    Drag(form->DBGrd->viewport(), title(1), title(3));
-    EXPECT_NE(form->DBGrd->Columns()[1]->FieldName(), u"NM"_s);
-    EXPECT_EQ(form->DBGrd->Columns()[form->OrderFieldIndex()]->FieldName(), u"NM"_s);
-    EXPECT_TRUE(form->Query->Active());
-    ClickAt(form->DBGrd->viewport(), title(0));
-    EXPECT_EQ(form->OrderFieldIndex(), 0);
-    EXPECT_FALSE(form->Query->Active());
-}
-
-TEST_F(GridMaster, ALostTableIsToldAndSearchingWorksAgain) {
-    TFrmTeste* form = Open();
-    form->Query->SQL()->SetText(u"SELECT * FROM NAO_EXISTE"_s);
-    EXPECT_THROW(form->RefreshData(), EDatabaseError);
-    EXPECT_FALSE(form->LookingForRecords);
-    form->Query->SQL()->SetText(u"SELECT * FROM PESSOA"_s);
-    form->RefreshData();
-    EXPECT_EQ(Names(form), u"Ana,Joana,João,Maria,O'Brien"_s);
 }
 
 }  // namespace

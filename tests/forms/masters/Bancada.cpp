@@ -84,7 +84,7 @@ void Bancada::SetUp() {
     Main = NewForm<TFrmTestePrincipal>(Application);
     Caso.Connection = new TFDConnection(Main);
     Caso.Connection->Params()->SetText(u"Protocol=Local\nUser_Name=SYSDBA\nForcedWrites=False\nDatabase="_s +
-                                       Folder.filePath(u"masters.fdb"_s));
+                                       Folder.filePath(u"masters%1.fdb"_s.arg(++Databases)));
     Caso.Connection->CreateDatabase();
     Caso.Connection->ExecSQL(
         u"CREATE TABLE CLIENTE (ID_CLI INTEGER NOT NULL PRIMARY KEY, NM_CLI VARCHAR(40) NOT NULL, NR_CPF "
@@ -98,6 +98,39 @@ void Bancada::SetUp() {
 
 void Bancada::TearDown() {
     Main->Free();
+}
+
+void Bancada::Run(const char* table, TTextFunctions own) {
+    using A = QStringList;
+    own.merge(TTextFunctions{
+        {u"Case"_s, Does([&](const A&) {
+             TearDown();
+             SetUp();
+             Module.SetRights({u"New"_s, u"Edit"_s, u"Delete"_s});
+         })},
+        {u"Rights"_s, Does([&](const A& a) {
+             Module.SetRights({a.begin(), a.end()});
+         })},
+        {u"View"_s, Does([&](const A& a) {
+             Caso.ReadOnly = a.contains(u"read-only"_s);
+             Vista = View(a[0] == u"list" ? vtList : vtFilter, Caso.ReadOnly ? ktNone : ktFieldProviderFlag);
+         })},
+        {u"Child"_s,
+         [&](const A&) { return Vista->ChildForm() ? Vista->ChildForm()->Caption() : UnicodeString(); }},
+        {u"Closed"_s,
+         [&](const A&) { return Until([&] { return !Vista->ChildForm(); }) ? u"yes"_s : u"no"_s; }},
+        {u"Sql"_s, Does([&](const A& a) { Caso.Connection->ExecSQL(a[0]); })},
+        {u"Scalar"_s, [&](const A& a) { return Scalar(a[0].toUtf8()); }},
+        {u"Width"_s,
+         Does([&](const A& a) { Vista->DBGrd->Columns()[a[0].toInt()]->SetWidth(a[1].toInt()); })},
+        {u"Names"_s, [&](const A&) {
+             A names;
+             for (Vista->Query->First(); !Vista->Query->Eof(); Vista->Query->Next())
+                 names << Vista->Query->FieldByName(u"NM_CLI"_s)->AsString();
+             return names.join(u',');
+         }}});
+    CheckScreenTable(
+        MASTERS_TESTS "/tables/%1.txt"_L1.arg(QLatin1String(table)), [&] { return Vista->Query; }, own);
 }
 
 TFrmTesteClientes* Bancada::View(TVizsualizationType visType, TKeyType keyType) {

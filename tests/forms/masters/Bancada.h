@@ -15,6 +15,7 @@
 #include "platform/data/Query.h"
 #include "platform/ui/DBCtrls.h"
 #include "tests/support/Screen.h"
+#include "tests/support/ScreenScript.h"
 
 // How the registration form of a case gets its data.
 enum TDados { PropriaConsulta, DadosDaLista };
@@ -79,6 +80,8 @@ class Bancada : public testing::Test {
     void SetUp() override;
     void TearDown() override;
 
+    // Runs tables/<table>.txt. "Case" starts over with every right; "View" opens a view master, Vista.
+    void Run(const char* table, TTextFunctions own = {});
     // A view master on the customers, all rows shown, the grid focused.
     TFrmTesteClientes* View(TVizsualizationType visType, TKeyType keyType = ktFieldProviderFlag);
     // The registration form that is open on a view; null without.
@@ -93,5 +96,9 @@ class Bancada : public testing::Test {
     THospedeiro Host;
     TModuleInstance Module{&Host, {QStringLiteral("CLIENTES"), QStringLiteral("Clientes"), {}}};
     TForm* Main = nullptr;
+    TFrmTesteClientes* Vista = nullptr;
     TCaso Caso;
+
+  private:
+    int Databases = 0;
 };

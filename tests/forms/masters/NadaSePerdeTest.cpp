@@ -94,7 +94,7 @@ TEST_F(NadaSePerde, SavedIsSaidWhenTheListCannotFollow) {
         int read = 0;
         bool committed = false;
         fichario::SetClientCallHook([&](fichario::CallKind kind) {
-            read += kind == fichario::CallKind::Fetch;
+            read += kind == fichario::CallKind::Execute;
             if (fails && committed) throw EFDError(u"A conexão caiu."_s, {});
             committed |= kind == fichario::CallKind::Commit;
         });

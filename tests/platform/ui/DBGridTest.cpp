@@ -15,9 +15,17 @@ class DBGridTest : public GridFixture {
         GridFixture::SetUp();
         Grid = NewGrid();
         Grid->SetReadOnly(true);
-        Grid->OnTitleClick = [this](TColumn* column) { Clicked += column->FieldName() + u' '; };
-        Grid->OnColumnMoved = [this](int from, int to) { Moved += u"%1>%2 "_s.arg(from).arg(to); };
+        Grid->OnTitleClick = [this](TColumn* column) { Hear(column->FieldName()); };
+        Grid->OnColumnMoved = [this](int from, int to) {
+            const TColumn* column = Grid->Columns()[to];
+            Hear(u"%1 %2>%3, now %4"_s.arg(column->FieldName()).arg(from).arg(to).arg(column->Index()));
+        };
+        Grid->OnDblClick = [this](TComponent*) { Hear(u"double"_s); };
+        Grid->OnKeyPress = [this](TComponent*, WideChar& key) {
+            Hear(QString::number(std::exchange(key, 0)));
+        };
     }
+    void Hear(const QString& what) { Heard << what; }
     void Open(int rows) {
         Fill(rows);
         Query->Open();
@@ -30,6 +38,38 @@ class DBGridTest : public GridFixture {
         QTest::mouseMove(View(), to);
         QTest::mouseRelease(View(), Qt::LeftButton, {}, to);
     }
+    // "title 2", "edge 2" (its right end), "cell row column", or "by x y" from another place.
+    QPoint Place(const QString& text, QPoint from = {}) const {
+        const QString kind = text.section(' ', 0, 0);
+        const int a = text.section(' ', 1, 1).toInt(), b = text.section(' ', 2, 2).toInt();
+        if (kind == u"by") return from + QPoint(a, b);
+        const TGridGeometry where = Grid->Geometry();
+        if (kind == u"cell") return where.Cell(a, b).center();
+        const QRect title = where.Title(a);
+        return kind == u"edge" ? QPoint(title.right(), title.center().y()) : title.center();
+    }
+    // Where a key leads to from the second column of record 100: by how many records, and to which column.
+    QString After(const QString& key) {
+        Query->First();
+        Query->MoveBy(99);
+        Grid->SetSelectedIndex(1);
+        Press(key);
+        const TGridGeometry where = Grid->Geometry();
+        EXPECT_TRUE(View()->rect().contains(where.Cell(Grid->CurrentRow(), 0)))
+            << "the current row is in sight";
+        const int moved = Query->RecNo() - 100;
+        const QString by = abs(moved) == where.FullRows() - 1 ? u"page"_s : QString::number(abs(moved));
+        return (moved < 0 ? u"-"_s : u""_s) + by + u' ' + QString::number(Grid->SelectedIndex());
+    }
+    QString Fields() const {
+        QStringList names;
+        for (int i = 0; i < Grid->Columns().Count(); ++i) {
+            const TColumn& column = *Grid->Columns()[i];
+            names << (column.Field() ? column.Field()->FieldName() : u"none"_s) +
+                         QString::number(column.Alignment());
+        }
+        return names.join(u' ');
+    }
     void Wheel(int delta) {
         const QPointF at = View()->rect().center();
         QWheelEvent event(at, View()->mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
@@ -38,7 +78,7 @@ class DBGridTest : public GridFixture {
     }
 
     TDBGrid* Grid = nullptr;
-    UnicodeString Clicked, Moved;
+    QStringList Heard;
 };
 
 // A form that moves by itself when the wheel turns.
@@ -57,44 +97,24 @@ class TWheelForm : public TForm {
 
 }  // namespace
 
-TEST_F(DBGridTest, KeysMoveTheDatasetAndTheColumn) {
-    Open(500);
-    const int page = Grid->Geometry().FullRows() - 1;
-    const struct {
-        Qt::Key Key;
-        Qt::KeyboardModifiers Modifiers;
-        TDBGridOptions Extra;
-        int Record, Column;
-    } cases[] = {
-        {Qt::Key_Up, {}, 0, 99, 1},
-        {Qt::Key_Down, {}, 0, 101, 1},
-        {Qt::Key_PageUp, {}, 0, 100 - page, 1},
-        {Qt::Key_PageDown, {}, 0, 100 + page, 1},
-        {Qt::Key_Home, {}, 0, 100, 0},
-        {Qt::Key_End, {}, 0, 100, 3},
-        {Qt::Key_Home, Qt::ControlModifier, 0, 1, 1},
-        {Qt::Key_End, Qt::ControlModifier, 0, 500, 1},
-        {Qt::Key_Home, {}, dgRowSelect, 1, 1},
-        {Qt::Key_End, {}, dgRowSelect, 500, 1},
-        {Qt::Key_Left, {}, 0, 100, 0},
-        {Qt::Key_Right, {}, 0, 100, 3},
-        {Qt::Key_Tab, {}, 0, 100, 3},
-        {Qt::Key_Right, {}, dgRowSelect, 100, 1},
-    };
-    const TDBGridOptions options = Grid->Options();
-    for (const auto& each : cases) {
-        SCOPED_TRACE(QKeySequence(each.Key | each.Modifiers).toString().toStdString());
-        Grid->SetOptions(options | each.Extra);
-        Query->First();
-        Query->MoveBy(99);
-        Grid->SetSelectedIndex(1);
-        Key(each.Key, each.Modifiers);
-        EXPECT_EQ(Query->RecNo(), each.Record);
-        EXPECT_EQ(Grid->SelectedIndex(), each.Column);
-        const TGridGeometry where = Grid->Geometry();
-        EXPECT_TRUE(View()->rect().contains(where.Cell(Grid->CurrentRow(), 0)))
-            << "the current row is in sight";
-    }
+TEST_F(DBGridTest, AnswersKeysAndTheMouse) {
+    Run(UI_TESTS "/tables/grade.txt",
+        {{u"Open"_s, Does([this](const QStringList& a) { Open(a[0].toInt()); })},
+         {u"RowSelect"_s,
+          Does([this](const QStringList&) { Grid->SetOptions(Grid->Options() | dgRowSelect); })},
+         {u"After"_s, [this](const QStringList& a) { return After(a[0]); }},
+         {u"Click"_s,
+          Does([this](const QStringList& a) { QTest::mouseClick(View(), Qt::LeftButton, {}, Place(a[0])); })},
+         {u"Double"_s, Does([this](const QStringList& a) {
+              QTest::mouseDClick(View(), Qt::LeftButton, {}, Place(a[0]));
+          })},
+         {u"Drag"_s, Does([this](const QStringList& a) { Drag(Place(a[0]), Place(a[1], Place(a[0]))); })},
+         {u"Heard"_s, [this](const QStringList&) { return std::exchange(Heard, {}).join(u' '); }},
+         {u"Clipboard"_s, [](const QStringList&) { return QGuiApplication::clipboard()->text(); }},
+         {u"Add"_s, Does([this](const QStringList& a) { Grid->AddColumn(a[0], {}, 70); })},
+         {u"Fields"_s, [this](const QStringList&) { return Fields(); }},
+         {u"Paint"_s, Does([this](const QStringList&) { Grid->grab(); })},
+         {u"Detach"_s, Does([this](const QStringList&) { Source->SetDataSet(nullptr); })}});
 }
 
 TEST_F(DBGridTest, ScrollingFetchesAndLeavesTheRecord) {
@@ -114,36 +134,6 @@ TEST_F(DBGridTest, ScrollingFetchesAndLeavesTheRecord) {
     EXPECT_LE(Grid->TopRow(), 1);
 }
 
-TEST_F(DBGridTest, ClicksChooseTheCell) {
-    Open(50);
-    int clicks = 0;
-    Grid->OnDblClick = [&](TComponent*) { ++clicks; };
-    const TGridGeometry where = Grid->Geometry();
-    QTest::mouseClick(View(), Qt::LeftButton, {}, where.Cell(4, 3).center());
-    EXPECT_EQ(Query->FieldByName(u"ID"_s)->AsInteger(), 5);
-    EXPECT_EQ(Grid->SelectedIndex(), 3);
-    QTest::mouseDClick(View(), Qt::LeftButton, {}, where.Cell(4, 3).center());
-    EXPECT_EQ(clicks, 1);
-    QTest::mouseDClick(View(), Qt::LeftButton, {}, where.Title(1).center());
-    EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(DBGridTest, CopiesTheCellOrTheRowWithItsTitles) {
-    Open(3);
-    Grid->SetSelectedIndex(1);
-    Key(Qt::Key_C, Qt::ControlModifier);
-    const UnicodeString cell = QGuiApplication::clipboard()->text();
-    EXPECT_EQ(cell, Grid->Columns()[1]->Field()->DisplayText());
-    Key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    const QStringList lines = QGuiApplication::clipboard()->text().split(u"\r\n"_s);
-    ASSERT_EQ(lines.size(), 3);
-    EXPECT_EQ(lines[0].section(u'\t', 1, 1), Grid->Columns()[1]->Title().Caption());
-    EXPECT_EQ(lines[1].section(u'\t', 1, 1), cell);
-    Grid->SetOptions(Grid->Options() | dgRowSelect);
-    Key(Qt::Key_Insert, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), lines.join(u"\r\n"_s));
-}
-
 TEST_F(DBGridTest, WheelIsTheFormsFirst) {
     Open(50);
     Wheel(-120);
@@ -157,48 +147,6 @@ TEST_F(DBGridTest, WheelIsTheFormsFirst) {
     EXPECT_EQ(other->Turned, -120);
     Grid->SetParent(nullptr);
     other->Free();
-}
-
-TEST_F(DBGridTest, TitlesClickDragAndSize) {
-    Open(5);
-    const TGridGeometry where = Grid->Geometry();
-    const int y = where.Title(0).center().y();
-    const auto right = [&](int column) { return QPoint(where.Title(column).right(), y); };
-    QTest::mouseClick(View(), Qt::LeftButton, {}, where.Title(3).center());
-    EXPECT_EQ(Clicked, u"VL "_s);
-    Drag(where.Title(0).center(), where.Title(0).center() + QPoint(1, 0));
-    EXPECT_EQ(Clicked, u"VL ID "_s) << "a trembling hand still clicks";
-    Drag(where.Title(0).center(), where.Title(0).center() + QPoint(0, 100));
-    Drag(right(1), right(1) + QPoint(25, 0));
-    EXPECT_EQ(Grid->Columns()[1]->Width(), 185);
-    Drag(right(0), right(0) - QPoint(500, 0));
-    EXPECT_EQ(Grid->Columns()[0]->Width(), 8);
-    EXPECT_EQ(Clicked, u"VL ID "_s);
-    EXPECT_EQ(Moved, u""_s);
-    Drag(Grid->Geometry().Title(1).center(), Grid->Geometry().Title(3).center());
-    EXPECT_EQ(Moved, u"1>3 "_s);
-    EXPECT_EQ(Grid->Columns()[3]->FieldName(), u"NM"_s);
-    EXPECT_EQ(Grid->Columns()[3]->Index(), 3);
-    EXPECT_EQ(Clicked, u"VL ID "_s);
-}
-
-TEST_F(DBGridTest, ColumnsKeepTheirNamesWithoutFields) {
-    TColumn* name = Grid->Columns()[1];
-    EXPECT_EQ(name->Field(), nullptr);
-    EXPECT_EQ(Grid->AddColumn(u"CPF"_s)->Title().Caption(), u"CPF"_s);
-    Open(3);
-    ASSERT_EQ(name->Field(), Query->FieldByName(u"NM"_s));
-    Query->FieldByName(u"CPF"_s)->SetDisplayLabel(u"C.P.F."_s);
-    EXPECT_EQ(Grid->Columns()[4]->Title().Caption(), u"C.P.F."_s);
-    EXPECT_EQ(Grid->Columns()[3]->Alignment(), taRightJustify);
-    Query->SQL()->SetText(u"SELECT ID FROM CLIENTE"_s);
-    Query->Open();
-    EXPECT_EQ(name->Field(), nullptr);
-    Grid->grab();
-    Source->SetDataSet(nullptr);
-    Grid->grab();
-    EXPECT_EQ(name->FieldName(), u"NM"_s);
-    EXPECT_EQ(Grid->CurrentRow(), -1);
 }
 
 TEST_F(DBGridTest, PaintsTheVisibleRowsOnly) {
@@ -231,19 +179,4 @@ TEST_F(DBGridTest, LongTextsShowWholeInATip) {
         EXPECT_TRUE(QTest::qWaitFor([&, text = tip] { return QToolTip::isVisible() == !text.isEmpty(); }));
         EXPECT_EQ(QToolTip::isVisible() ? QToolTip::text() : u""_s, tip);
     }
-}
-
-TEST_F(DBGridTest, CharactersReachTheHandlers) {
-    Open(3);
-    UnicodeString heard;
-    Grid->OnKeyPress = [&](TComponent*, WideChar& key) {
-        heard += key == 13 ? QChar(u'#') : QChar(key);
-        key = 0;
-    };
-    Type(u"ab"_s);
-    Key(Qt::Key_Return);
-    QInputMethodEvent composed;
-    composed.setCommitString(u"ãé"_s);
-    QApplication::sendEvent(Grid, &composed);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return heard == u"ab#ãé"_s; })) << heard.toStdString();
 }

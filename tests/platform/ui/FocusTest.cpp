@@ -22,14 +22,14 @@ class FocusTest : public FormFixture {
     TEdit* Second = nullptr;
 };
 
-TEST_F(FocusTest, EnterAndExitFollowTheActiveControl) {
-    Second->SetFocus();
-    EXPECT_EQ(TakeJournal(), "E1.exit E2.enter");
-    ClickAt(First->Widget(), QPoint(4, 4));
-    EXPECT_EQ(TakeJournal(), "E2.exit E1.enter");
-    EXPECT_TRUE(First->Focused());
-    First->SetFocus();
-    EXPECT_EQ(TakeJournal(), "");
+TEST_F(FocusTest, IsWhereTheTableSays) {
+    Run(UI_TESTS "/tables/foco.txt",
+        {{u"Hears"_s, Does([](const QStringList& a) {
+              dynamic_cast<TForm*>(Named(a[0]))->OnKeyDown = [](TComponent*, int& key, TShiftState) {
+                  Note(u"F%1"_s.arg(key));
+              };
+          })},
+         {u"Tab"_s, Does([this](const QStringList&) { Form->DoTabKey(true); })}});
 }
 
 TEST_F(FocusTest, PopupsBoxesAndOtherWindowsChangeNothing) {
@@ -56,22 +56,6 @@ TEST_F(FocusTest, PopupsBoxesAndOtherWindowsChangeNothing) {
     EXPECT_EQ(TakeJournal(), "");
 }
 
-TEST_F(FocusTest, EachFormRemembersItsControl) {
-    Second->SetFocus();
-    TTestForm* other = NewChild(u"B"_s);
-    TEdit* edit = other->NewEdit(u"E3"_s);
-    edit->SetFocus();
-    EXPECT_EQ(TakeJournal(),
-              "E1.exit E2.enter B.controls B.construct B.create B.resize B.show A.deactivate B.activate "
-              "B.resize E3.enter");
-    Form->Show();
-    EXPECT_EQ(TakeJournal(), "B.deactivate A.activate");
-    EXPECT_TRUE(Second->Focused());
-    EXPECT_EQ(other->ActiveControl(), edit);
-    Form->Hide();
-    EXPECT_TRUE(edit->Focused());
-}
-
 TEST_F(FocusTest, RefusedExitKeepsTheControlAndStopsTheAction) {
     First->OnExit = [](TComponent*) { throw Exception(u"valor inválido"_s); };
     EXPECT_THROW(Second->SetFocus(), Exception);
@@ -96,48 +80,6 @@ TEST_F(FocusTest, AHandlerMayMoveTheFocusOn) {
     Second->OnEnter = [&](TComponent*) { First->SetFocus(); };
     Second->SetFocus();
     EXPECT_TRUE(First->Focused());
-}
-
-TEST_F(FocusTest, TabGoesRoundInsideTheForm) {
-    TTestForm* other = NewChild(u"B"_s);
-    other->NewEdit(u"X"_s);
-    Form->Show();
-    TEdit* skipped = Form->NewEdit(u"E3"_s, 190);
-    skipped->SetTabStop(false);
-    auto* panel = NewControl<TPanel>(Form, Form, u"Pn"_s, QRect(0, 60, 200, 80));
-    auto* inner = NewControl<TEdit>(Form, panel, u"E4"_s, QRect(0, 0, 50, 25));
-    NewControl<TEdit>(Form, panel, u"E5"_s, QRect(60, 0, 50, 25))->SetVisible(false);
-    const std::vector<TControl*> order = {Second, inner, First};
-    for (TControl* expected : order) {
-        Press(VK_TAB);
-        EXPECT_EQ(Form->ActiveControl(), expected);
-    }
-    Press(VK_TAB, ssShift);
-    EXPECT_EQ(Form->ActiveControl(), inner);
-    First->SetTabOrder(1);
-    inner->SetFocus();
-    Form->DoTabKey(true);
-    EXPECT_EQ(Form->ActiveControl(), Second);
-}
-
-TEST_F(FocusTest, FormTakesTheFocusWhenNoControlCan) {
-    First->SetVisible(false);
-    Second->SetEnabled(false);
-    EXPECT_FALSE(First->CanFocus() || Second->CanFocus());
-    EXPECT_THROW(Second->SetFocus(), EInvalidOperation);
-    TTestForm* empty = NewChild(u"B"_s);
-    EXPECT_TRUE(empty->Focused());
-    int keys = 0;
-    empty->OnKeyDown = [&](TComponent*, int& key, TShiftState) { keys += key == VK_F3; };
-    Press(VK_F3);
-    EXPECT_EQ(keys, 1);
-}
-
-TEST_F(FocusTest, ActiveControlThatDiesIsForgotten) {
-    First->Free();
-    EXPECT_NE(Form->ActiveControl(), static_cast<TControl*>(First));
-    Second->SetFocus();
-    EXPECT_TRUE(Second->Focused());
 }
 
 TEST(GuardTest, ExceptionsGoToTheNearestCallOfOurs) {

@@ -6,6 +6,7 @@
 #include "platform/ui/Form.h"
 #include "platform/ui/StdCtrls.h"
 #include "tests/support/Screen.h"
+#include "tests/support/ScreenScript.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,6 +79,39 @@ class FormFixture : public testing::Test {
         Application->OnActiveControlChange = nullptr;
         while (!Application->Forms().empty()) Application->Forms().back()->Free();
         TakeJournal();
+    }
+
+    // A control on a form, or on the panel of that name. It notes its changes and clicks.
+    template <class T>
+    static void Make(const QStringList& a) {
+        auto* parent = dynamic_cast<TControl*>(Named(a[0]));
+        const int left = a.value(2).toInt(), top = a.value(3, u"8"_s).toInt();
+        T* made = NewControl<T>(parent->Form(), parent, a[1], QRect(left, top, 80, 25));
+        made->OnClick = [made](TComponent*) { Note(made->Name() + u".click"_s); };
+        if constexpr (requires { made->OnChange; }) {
+            made->OnChange = [made](TComponent*) { Note(made->Name() + u".change"_s); };
+        }
+    }
+
+    // Runs a table, where "Case" starts over.
+    void Run(const char* path, TTextFunctions own = {}) {
+        using A = QStringList;
+        own.merge(TTextFunctions{
+            {u"Case"_s, Does([this](const A&) { TearDown(), SetUp(); })},
+            {u"Form"_s, Does([this](const A& a) { NewChild(a[0]); })},
+            {u"Noting"_s,
+             Does([](const A& a) { dynamic_cast<TTestForm*>(Named(a[0]))->NewEdit(a[1], a[2].toInt()); })},
+            {u"Button"_s, Does(Make<TButton>)},
+            {u"Edit"_s, Does(Make<TEdit>)},
+            {u"Mask"_s, Does(Make<TMaskEdit>)},
+            {u"Memo"_s, Does(Make<TMemo>)},
+            {u"Combo"_s, Does(Make<TComboBox>)},
+            {u"Check"_s, Does(Make<TCheckBox>)},
+            {u"Panel"_s, Does(Make<TPanel>)},
+            {u"Forget"_s, Does([](const A&) { TakeJournal(); })},
+            {u"Journal"_s, [](const A&) { return QString::fromStdString(TakeJournal()); }}});
+        CheckScreenTable(
+            QString::fromUtf8(path), [] { return nullptr; }, own);
     }
 
     // A visible form of 300 by 200 in the client area.

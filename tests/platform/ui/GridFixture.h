@@ -10,6 +10,7 @@
 #include "platform/ui/DBCtrls.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/Form.h"
+#include "tests/support/ScreenScript.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,9 +19,11 @@ class GridFixture : public ::testing::Test {
     void SetUp() override {
         Form = NewForm<TForm>(Application);
         Form->SetBounds(0, 0, 640, 480);
+        Application->OnException = [this](const Exception& e) { Shown = e.Message; };
         OpenDatabase();
         Query = NewQuery(u"SELECT ID, NM, VL, TF_DEL, DT, CPF, OBS, CD_UF FROM CLIENTE ORDER BY ID"_s);
         Source = new TDataSource(Form);
+        Source->SetName(u"Source"_s);
         Source->SetDataSet(Query);
         Form->Show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(Form->Widget()->window()));
@@ -29,6 +32,18 @@ class GridFixture : public ::testing::Test {
     void TearDown() override {
         Application->OnException = nullptr;
         Form->Free();
+    }
+
+    // Runs a table, where "Case" starts over.
+    void Run(const char* path, TTextFunctions own = {}) {
+        own.merge(
+            TTextFunctions{{u"Case"_s, Does([this](const QStringList&) { TearDown(), SetUp(); })},
+                           {u"Sql"_s, Does([this](const QStringList& a) { Connection->ExecSQL(a[0]); })},
+                           {u"Select"_s, Does([this](const QStringList& a) { Query->SQL()->SetText(a[0]); })},
+                           {u"Stored"_s, [this](const QStringList& a) { return Stored(a[0], a[1].toInt()); }},
+                           {u"Shown"_s, [this](const QStringList&) { return std::exchange(Shown, {}); }}});
+        CheckScreenTable(
+            QString::fromUtf8(path), [this] { return Query; }, own);
     }
 
     TFDQuery* NewQuery(const UnicodeString& sql) {
@@ -66,9 +81,6 @@ class GridFixture : public ::testing::Test {
 
     QWindow* Window() const { return Form->Widget()->window()->windowHandle(); }
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Window(), key, modifiers); }
-    void Type(const UnicodeString& text) {
-        for (const QChar letter : text) QTest::keyClick(Window(), letter.toLatin1());
-    }
     // What the database holds, whatever the datasets show.
     UnicodeString Stored(const UnicodeString& column, int id) {
         return Connection->ExecSQLScalar(u"SELECT %1 FROM CLIENTE WHERE ID = %2"_s.arg(column).arg(id))
@@ -79,13 +91,14 @@ class GridFixture : public ::testing::Test {
     TFDConnection* Connection = nullptr;
     TFDQuery* Query = nullptr;
     TDataSource* Source = nullptr;
+    UnicodeString Shown;  // of the last exception that reached the toolkit
 
   private:
     void OpenDatabase() {
         Connection = new TFDConnection(Form);
         Connection->Params()->SetText(
             u"DriverID=FB\nProtocol=Local\nUser_Name=SYSDBA\nForcedWrites=False\nDatabase="_s +
-            Folder.filePath(u"grid.fdb"_s));
+            Folder.filePath(u"grid%1.fdb"_s.arg(++Databases)));
         Connection->CreateDatabase();
         Connection->ExecSQL(
             u"CREATE TABLE CLIENTE (ID INTEGER NOT NULL PRIMARY KEY, NM VARCHAR(40), VL NUMERIC(15,2), "
@@ -93,4 +106,5 @@ class GridFixture : public ::testing::Test {
     }
 
     QTemporaryDir Folder;
+    int Databases = 0;
 };

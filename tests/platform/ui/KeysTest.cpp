@@ -1,5 +1,6 @@
 // The stages of key strokes, characters and texts of input methods.
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMenu>
 #include <QTest>
 #include "tests/platform/ui/FormFixture.h"
@@ -45,45 +46,25 @@ class KeysTest : public FormFixture {
     TEdit* Edit = nullptr;
 };
 
-TEST_F(KeysTest, StagesInOrder) {
-    Form->OnShortCut = [](TShortCutKey& key, bool&) { Note(u"S%1"_s.arg(key.Key)); };
-    Press('A');
-    EXPECT_EQ(TakeJournal(), "S65 F65+0 C65 f97 c97");
-    EXPECT_EQ(Edit->Text(), u"a"_s);
-    Form->SetKeyPreview(false);
-    Press('B');
-    EXPECT_EQ(TakeJournal(), "S66 C66 c98");
+// "Ctrl+C|\u0003": the virtual key of a stroke of that text, and its character.
+QString Stroke(const QStringList& a) {
+    const QKeyCombination keys = QKeySequence::fromString(a[0])[0];
+    const QKeyEvent stroke(QEvent::KeyPress, keys.key(), keys.keyboardModifiers(), a[1]);
+    return u"%1 %2"_s.arg(VirtualKeyOf(stroke)).arg(int(CharacterOf(stroke)));
 }
 
-TEST_F(KeysTest, WhichStrokesAreCharacters) {
-    struct TCase {
-        const char* Name;
-        Qt::Key Key;
-        const char16_t* Text;
-        Qt::KeyboardModifiers Modifiers;
-        int Virtual;
-        int Character;
-    };
-    const TCase kCases[] = {{"Enter", Qt::Key_Return, u"\r", {}, VK_RETURN, 13},
-                            {"Enter of the pad", Qt::Key_Enter, u"\r", Qt::KeypadModifier, VK_RETURN, 13},
-                            {"Escape", Qt::Key_Escape, u"\x1b", {}, VK_ESCAPE, 27},
-                            {"Backspace", Qt::Key_Backspace, u"\b", {}, VK_BACK, 8},
-                            {"Delete", Qt::Key_Delete, u"\x7f", {}, VK_DELETE, 0},
-                            {"Ctrl+C", Qt::Key_C, u"\x03", Qt::ControlModifier, 'C', 0},
-                            {"Alt+C", Qt::Key_C, u"c", Qt::AltModifier, 'C', 0},
-                            {"AltGr+E", Qt::Key_E, u"€", Qt::ControlModifier | Qt::AltModifier, 'E', 0x20AC},
-                            {"cedilla", Qt::Key_Ccedilla, u"ç", {}, 0, 0xE7},
-                            {"plus of the pad", Qt::Key_Plus, u"+", Qt::KeypadModifier, VK_ADD, '+'},
-                            {"plus", Qt::Key_Plus, u"+", {}, 0, '+'},
-                            {"back tab", Qt::Key_Backtab, u"\t", Qt::ShiftModifier, VK_TAB, 0},
-                            {"F12", Qt::Key_F12, u"", {}, VK_F12, 0}};
-    for (const TCase& expected : kCases) {
-        SCOPED_TRACE(expected.Name);
-        const QKeyEvent stroke(QEvent::KeyPress, expected.Key, expected.Modifiers,
-                               QString::fromUtf16(expected.Text));
-        EXPECT_EQ(VirtualKeyOf(stroke), expected.Virtual);
-        EXPECT_EQ(int(CharacterOf(stroke)), expected.Character);
-    }
+TEST_F(KeysTest, PassTheirStages) {
+    Run(UI_TESTS "/tables/teclas.txt",
+        {{u"Stroke"_s, Stroke},
+         {u"ShortCuts"_s, Does([this](const QStringList&) {
+              Form->OnShortCut = [](TShortCutKey& key, bool&) { Note(u"S%1"_s.arg(key.Key)); };
+          })},
+         {u"Listen"_s, Does([](const QStringList& a) {
+              dynamic_cast<TControl*>(Named(a[0]))->OnKeyDown = [](TComponent* sender, int& key,
+                                                                   TShiftState) {
+                  Note(sender->Name() + QString::number(key));
+              };
+          })}});
 }
 
 TEST_F(KeysTest, HandlersSwallowAndChange) {
@@ -193,42 +174,6 @@ TEST_F(KeysTest, SilentWhileAMenuIsOpen) {
     Press(VK_ESCAPE);
     EXPECT_FALSE(menu.isVisible());
     EXPECT_EQ(TakeJournal(), "");
-}
-
-TEST_F(KeysTest, AListIsItsControl) {
-    auto* combo = NewControl<TComboBox>(Form, Form, u"Cb"_s, QRect(8, 60, 90, 25));
-    combo->Items()->SetText(u"um\ndois\ntrês");
-    combo->OnKeyDown = [](TComponent*, int& key, TShiftState) { Note(u"combo%1"_s.arg(key)); };
-    combo->OnChange = [](TComponent*) { Note(u"change"_s); };
-    combo->SetItemIndex(0);
-    combo->SetFocus();
-    combo->SetDroppedDown(true);
-    Settle();
-    TakeJournal();
-    Press(VK_DOWN);
-    Press(VK_RETURN);
-    EXPECT_EQ(TakeJournal(), "F40+0 combo40 F13+0 combo13 f13 change");
-    EXPECT_EQ(combo->ItemIndex(), 1);
-    EXPECT_FALSE(combo->DroppedDown());
-}
-
-TEST_F(KeysTest, DefaultAndCancelButtons) {
-    auto* ok = NewControl<TButton>(Form, Form, u"BtnOk"_s, QRect(8, 60, 80, 25));
-    auto* cancel = NewControl<TButton>(Form, Form, u"BtnCancel"_s, QRect(98, 60, 80, 25));
-    auto* memo = NewControl<TMemo>(Form, Form, u"Memo"_s, QRect(8, 90, 80, 40));
-    ok->SetDefault(true);
-    cancel->SetCancel(true);
-    ok->OnClick = cancel->OnClick = [](TComponent* sender) { Note(sender->Name()); };
-    Press(VK_RETURN);
-    Press(VK_ESCAPE);
-    EXPECT_EQ(TakeJournal(), "BtnOk BtnCancel");
-    memo->SetFocus();
-    TakeJournal();
-    Press(VK_RETURN);
-    EXPECT_EQ(memo->Text(), u"\r\n"_s);
-    memo->SetWantReturns(false);
-    Press(VK_RETURN);
-    EXPECT_NE(TakeJournal().find("BtnOk"), std::string::npos);
 }
 
 }  // namespace

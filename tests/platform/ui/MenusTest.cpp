@@ -169,3 +169,10 @@ TEST_F(MenusTest, ButtonsGrowToIconAboveCaptionAndNeverTakeTheFocus) {
     images->Free();
     EXPECT_EQ(Form->Bar->Images(), nullptr);
 }
+
+TEST_F(MenusTest, ASeparatorIsALineWithoutText) {
+    TMainMenu* menu = new TMainMenu(Form);
+    const TMenuItem* line = menu->Items()->AddNew(u"-"_s);
+    EXPECT_TRUE(line->Action()->isSeparator() && line->Action()->text().isEmpty());
+    EXPECT_EQ(line->Caption(), u"-");
+}

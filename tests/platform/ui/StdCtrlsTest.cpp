@@ -67,30 +67,14 @@ TEST_F(StdCtrlsTest, AnchorsKeepTheirDistances) {
     }
 }
 
-TEST_F(StdCtrlsTest, TextsFireOnChangeChoicesSetByCodeDoNot) {
-    int changes = 0;
-    const auto count = [&](TComponent*) { ++changes; };
-    auto* edit = Make<TEdit>();
-    auto* memo = Make<TMemo>();
-    edit->OnChange = memo->OnChange = count;
-    edit->SetText(u"a"_s);
-    edit->SetText(u"a"_s);
-    memo->SetText(u"um\r\ndois"_s);
-    EXPECT_EQ(changes, 2);
-    EXPECT_EQ(memo->Text(), u"um\r\ndois"_s);
-    auto* combo = Make<TComboBox>();
-    auto* check = Make<TCheckBox>();
-    combo->OnChange = check->OnClick = count;
-    combo->Items()->SetText(u"SIM\nNÃO");
-    EXPECT_EQ(combo->ItemIndex(), -1);
-    combo->SetItemIndex(1);
-    check->SetChecked(true);
-    EXPECT_EQ(changes, 2);
-    ClickAt(check->Widget(), QPoint(6, 12));
-    EXPECT_FALSE(check->Checked());
-    EXPECT_EQ(changes, 3);
-    combo->Items()->Delete(1);
-    EXPECT_EQ(combo->ItemIndex(), -1);
+TEST_F(StdCtrlsTest, KeepTheirTextsAndTellOfChanges) {
+    Run(UI_TESTS "/tables/textos.txt",
+        {{u"Tick"_s, Does([](const QStringList& a) {
+              ClickAt(dynamic_cast<TControl*>(Named(a[0]))->Widget(), QPoint(6, 12));
+          })},
+         {u"Delete"_s, Does([](const QStringList& a) {
+              dynamic_cast<TComboBox*>(Named(a[0]))->Items()->Delete(a[1].toInt());
+          })}});
 }
 
 TEST_F(StdCtrlsTest, WhatAnExitThrowsOutOfAChangeReachesTheCaller) {
@@ -98,32 +82,6 @@ TEST_F(StdCtrlsTest, WhatAnExitThrowsOutOfAChangeReachesTheCaller) {
     edit->OnChange = [](TComponent*) { throw Exception(u"não"_s); };
     EXPECT_THROW(edit->SetText(u"x"_s), Exception);
     EXPECT_EQ(edit->Text(), u"x"_s);
-}
-
-TEST_F(StdCtrlsTest, MaskedEditTypesErasesAndPastes) {
-    auto* edit = Make<TMaskEdit>();
-    edit->SetMaxLength(3);  // shorter than the mask, which then holds
-    edit->SetEditMask(u"99/99/0000;0;_"_s);
-    EXPECT_EQ(edit->EditText(), u"__/__/____"_s);
-    edit->SetFocus();
-    edit->setCursorPosition(0);
-    TypeText(u"1x2034"_s);
-    EXPECT_EQ(edit->EditText(), u"12/03/4___"_s);
-    EXPECT_FALSE(edit->IsComplete());
-    Press(VK_BACK);
-    Press(VK_BACK);
-    EXPECT_EQ(edit->EditText(), u"12/0_/____"_s);
-    CommitText(u"9"_s);
-    TypeText(u"1985"_s);
-    EXPECT_TRUE(edit->IsComplete());
-    EXPECT_EQ(edit->Text(), u"12091985"_s);
-    edit->SelectAll();
-    Press(VK_DELETE);
-    EXPECT_EQ(edit->EditText(), u"__/__/____"_s);
-    edit->SetText(u"31122024"_s);
-    EXPECT_EQ(edit->EditText(), u"31/12/2024"_s);
-    edit->SetEditMask({});
-    EXPECT_EQ(edit->Text(), u"31122024"_s);
 }
 
 TEST_F(StdCtrlsTest, LabelsFitTheirCaption) {
