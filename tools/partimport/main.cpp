@@ -7,11 +7,11 @@
 // While it runs it holds the lock VREN_IMPART. Exit code 0 when data was delivered, 1 otherwise.
 #include <cstdio>
 #include <QApplication>
-#include <QMessageBox>
 
 #include "platform/rtl/Exceptions.h"
 #include "platform/system/NamedMutex.h"
 #include "platform/system/Paths.h"
+#include "platform/ui/Application.h"
 #include "platform/ui/Palette.h"
 #include "tools/partimport/Busca.h"
 #include "tools/partimport/Janela.h"
@@ -44,7 +44,7 @@ int Buscar(const UnicodeString& cnpj) {
         return 0;
     } catch (const Exception& e) {
         fprintf(stderr, "%s\n", e.what());
-        if (!SemTela()) QMessageBox::critical(nullptr, u"Erro"_s, e.Message);
+        if (!SemTela()) Application->MessageBox(e.Message, u"Erro"_s, MB_ICONERROR);
         return 1;
     }
 }
@@ -65,6 +65,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     ApplyLooks(app);
+    TApplication application;
     TNamedMutex mutex(u"VREN_IMPART"_s);
     Segurar(mutex);
     const UnicodeString cnpj = CnpjDe(QApplication::arguments());

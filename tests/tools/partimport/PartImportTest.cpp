@@ -44,13 +44,16 @@ class TScreen : public TUserInterface {
 
 class PartImport : public testing::Test {
   protected:
+    // The lock of each test lies in its own folder: others may run at the same time.
     void SetUp() override {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Folder.path()));
         SetProgramFolder(Folder.path());
         Before = InstallUserInterface(&Screen);
     }
     void TearDown() override {
         InstallUserInterface(Before);
         SetProgramFolder({});
+        qputenv("XDG_RUNTIME_DIR", RuntimeBefore);
     }
     void Place(const QString& name, const QString& from) {
         ASSERT_TRUE(QFile::copy(from, Folder.filePath(name)));
@@ -72,6 +75,7 @@ class PartImport : public testing::Test {
         return {};
     }
 
+    const QByteArray RuntimeBefore = qgetenv("XDG_RUNTIME_DIR");
     QTemporaryDir Folder;
     TScreen Screen;
     TUserInterface* Before = nullptr;
@@ -112,8 +116,8 @@ TEST_F(PartImport, WaitsForTheProgramInWhichTheUserTypes) {
     QElapsedTimer typing;
     typing.start();
     Screen.Idle = [&] {
-        int pid = 0;
-        if (typing.elapsed() < 1500 || !FindProcess(u"PartImport.exe"_s, pid)) return;
+        const int pid = FindProcessEx(Folder.filePath(u"PartImport.exe"_s));
+        if (typing.elapsed() < 1500 || pid == 0) return;
         EXPECT_FALSE(TNamedMutex(u"VREN_IMPART"_s).TryLock());
         TIniFile(File()).WriteBool(u"CNPJ"_s, u"Usado"_s, true);
         TIniFile(File()).WriteString(u"CNPJ"_s, u"Cidade"_s, u"Curitiba"_s);
