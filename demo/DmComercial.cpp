@@ -28,3 +28,10 @@ TFDQuery* TDM_Comercial::NewQuery(TComponent* owner, const UnicodeString& sql) c
 void Label(TDataSet* dataset, const UnicodeString& fieldName, const UnicodeString& caption) {
     dataset->FieldByName(fieldName)->SetDisplayLabel(caption);
 }
+
+void LabelAll(TDataSet* dataset, std::initializer_list<TFieldCaption> captions) {
+    for (const TFieldCaption& caption : captions) {
+        TField* field = dataset->FindField(UnicodeString::fromUtf16(caption.Field));
+        if (field) field->SetDisplayLabel(UnicodeString::fromUtf16(caption.Caption));
+    }
+}

@@ -24,5 +24,12 @@ class TDM_Comercial : public TDM_Base {
     TFDConnection* FConnection;
 };
 
-// Gives the field its caption and, when not 0, its character width.
+// Gives the field its caption.
 void Label(TDataSet* dataset, const UnicodeString& fieldName, const UnicodeString& caption);
+
+// The same for several; fields that the dataset lacks are left out.
+struct TFieldCaption {
+    const char16_t* Field;
+    const char16_t* Caption;
+};
+void LabelAll(TDataSet* dataset, std::initializer_list<TFieldCaption> captions);

@@ -11,44 +11,29 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct TCaption {
-    const char16_t* Field;
-    const char16_t* Caption;
-};
-
-constexpr TCaption kCaptions[] = {{u"CD_CLI", u"Código"},
-                                  {u"NM_CLI", u"Nome"},
-                                  {u"FANTASIA", u"Nome fantasia"},
-                                  {u"NR_CPF", u"CPF/CNPJ"},
-                                  {u"NR_INS_EST", u"Inscrição estadual"},
-                                  {u"NM_EST", u"UF"},
-                                  {u"CIDADE", u"Cidade"},
-                                  {u"E_MAIL", u"E-mail"},
-                                  {u"DT_CAD", u"Cadastro"},
-                                  {u"VL_LIMITE", u"Limite de crédito"},
-                                  {u"TF_ATIVO", u"Ativo"}};
-
 // The grid shows some of the columns, the form all of them.
 void LabelCliente(TDataSet* clientes) {
-    for (const TCaption& caption : kCaptions) {
-        TField* field = clientes->FindField(UnicodeString::fromUtf16(caption.Field));
-        if (field) field->SetDisplayLabel(UnicodeString::fromUtf16(caption.Caption));
-    }
+    LabelAll(clientes, {{u"CD_CLI", u"Código"},
+                        {u"NM_CLI", u"Nome"},
+                        {u"FANTASIA", u"Nome fantasia"},
+                        {u"NR_CPF", u"CPF/CNPJ"},
+                        {u"NR_INS_EST", u"Inscrição estadual"},
+                        {u"NM_EST", u"UF"},
+                        {u"CIDADE", u"Cidade"},
+                        {u"E_MAIL", u"E-mail"},
+                        {u"DT_CAD", u"Cadastro"},
+                        {u"VL_LIMITE", u"Limite de crédito"},
+                        {u"TF_ATIVO", u"Ativo"}});
     clientes->FieldByName(u"VL_LIMITE"_s)->SetTag(2);
 }
 
 }  // namespace
 
 TFrmClientes::TFrmClientes(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData)
-    : TFrmViz_Master(
-          AOwner, AModule,
-          [AData](TComponent* owner, TModuleInstance* module, unsigned char mode, TKeyType keyType,
-                  bool load) { return NewForm<TFrmCadCliente>(owner, module, mode, keyType, load, AData); },
-          vtFilter, ktFieldProviderFlag),
-      FData(AData) {}
+    : TFrmLista(AOwner, AModule, ClassWith<TFrmCadCliente>(AData), vtFilter, ktFieldProviderFlag, AData) {}
 
 void TFrmClientes::CreateControls() {
-    TFrmViz_Master::CreateControls();
+    TFrmLista::CreateControls();
     TFDQuery* clientes = FData->NewQuery(
         this,
         u"SELECT CD_CLI, NM_CLI, FANTASIA, NR_CPF, CIDADE, NM_EST, DT_CAD, VL_LIMITE, TF_ATIVO, TF_DEL\n"
@@ -73,28 +58,8 @@ void TFrmClientes::CreateControls() {
     activeColumn->PickList().SetText(u"SIM;S\nNÃO;N"_s);
 }
 
-void TFrmClientes::FormCreate(TComponent* Sender) {
-    TFrmViz_Master::FormCreate(Sender);
-    ShowRecords();
-}
-
-void TFrmClientes::DBGrdTitleClick(TColumn* Column) {
-    TFrmViz_Master::DBGrdTitleClick(Column);
-    ShowRecords();
-}
-
-// The screen shows its records from the start, and after another column was chosen; a remembered order or a
-// date column may have brought them already.
-void TFrmClientes::ShowRecords() {
-    if (!MainDS->DataSet()->Active()) RefreshData();
-}
-
-TFrmCadCliente::TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, unsigned char AMode,
-                               TKeyType AKeyType, bool ALoadWindowConfig, TDM_Comercial* AData)
-    : TFrmCad_Master(AOwner, AModule, AMode, AKeyType, ALoadWindowConfig), FData(AData) {}
-
 void TFrmCadCliente::CreateControls() {
-    TFrmCad_Master::CreateControls();
+    TFrmCadComercial::CreateControls();
     SetClientWidth(620);
     SetClientHeight(350);
     CreateQuery();

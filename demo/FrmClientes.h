@@ -1,30 +1,19 @@
 // Clientes: the grid of customers and the form that edits one.
 #pragma once
 
-#include "demo/DmComercial.h"
-#include "forms/masters/UCad_Master.h"
-#include "forms/masters/UViz_Master.h"
+#include "demo/FrmLista.h"
 
-class TFrmClientes : public TFrmViz_Master {
+class TFrmClientes : public TFrmLista {
   public:
     TFrmClientes(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData);
 
-    void FormCreate(TComponent* Sender) override;
-    void DBGrdTitleClick(TColumn* Column) override;
-
   protected:
     void CreateControls() override;
-
-  private:
-    void ShowRecords();
-
-    TDM_Comercial* FData;
 };
 
-class TFrmCadCliente : public TFrmCad_Master {
+class TFrmCadCliente : public TFrmCadComercial {
   public:
-    TFrmCadCliente(TComponent* AOwner, TModuleInstance* AModule, unsigned char AMode, TKeyType AKeyType,
-                   bool ALoadWindowConfig, TDM_Comercial* AData);
+    using TFrmCadComercial::TFrmCadComercial;
 
   protected:
     void CreateControls() override;
@@ -36,6 +25,5 @@ class TFrmCadCliente : public TFrmCad_Master {
     void FindTown();
     void FindCompany();
 
-    TDM_Comercial* FData;
     TResearchResult FTown;
 };

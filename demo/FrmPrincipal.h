@@ -4,16 +4,18 @@
 #include "demo/DmComercial.h"
 #include "forms/main/UFrmMain.h"
 
-class TFrmClientes;
-class TFrmMunicipios;
+struct TUsuario;
 
 class TFrmPrincipal : public TFrmMain {
   public:
     TFrmPrincipal(TComponent* AOwner, TDM_Comercial* AData);
 
-    // Opens the module's screen, or brings it forward when it is open already.
+    // Each opens the module's screen, or brings it forward when it is open already.
     void OpenClientes();
     void OpenMunicipios();
+    void OpenPedidos();
+    void OpenProdutos();
+    void OpenVendedores();
 
     // Asks for a receipt, and waits for it.
     void OpenRecibo();
@@ -23,16 +25,31 @@ class TFrmPrincipal : public TFrmMain {
     // settings. False when the user gives up.
     bool Conecta();
 
-    // Which rights the user holds in Clientes; all of them until set.
+    // Asks who uses the program, on the open database. False when the user gives up.
+    bool Identifica();
+    // The user of that name enters without a password, for demonstrations; false when there is none.
+    bool Assume(const UnicodeString& nome);
+
+    // Which rights the user holds in Clientes; all of them until a user entered.
     TModuleInstance& Clientes() { return FClientes; }
 
   protected:
     void CreateControls() override;
 
   private:
+    void CreateRegisters();
+    void CreateFile();
+    void Entrou(const TUsuario& usuario);
+    template <class T>
+    void Open(TModuleInstance& module);
+
     TDM_Comercial* FData;
     TModuleInstance FClientes;
     TModuleInstance FMunicipios;
+    TModuleInstance FPedidos;
+    TModuleInstance FProdutos;
+    TModuleInstance FVendedores;
+    TModuleInstance FEntrada;
     TModuleInstance FRecibo;
     TModuleInstance FConexao;
 };

@@ -117,6 +117,13 @@ void TFrmRecibo::FormCreate(TComponent* Sender) {
     ShowWords();
 }
 
+void TFrmRecibo::Propor(const UnicodeString& pagador, Currency valor, const UnicodeString& referente) {
+    FPagador->SetText(pagador);
+    FValor->SetText(ValorEmAlgarismos(valor));
+    FReferente->SetText(referente);
+    ShowWords();
+}
+
 void TFrmRecibo::ShowWords() {
     const bool empty = FValor->Text().trimmed().isEmpty();
     const UnicodeString fault = empty ? UnicodeString() : RecusaDoValor(FValor->Text());

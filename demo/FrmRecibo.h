@@ -18,6 +18,9 @@ class TFrmRecibo : public TFrmEnt_Master {
   public:
     TFrmRecibo(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData);
 
+    // Fills in what is known already, for the user to check; it counts as typed.
+    void Propor(const UnicodeString& pagador, Currency valor, const UnicodeString& referente);
+
     void FormCreate(TComponent* Sender) override;
     void BtnConfirmarClick(TComponent* Sender) override;
 

@@ -3,8 +3,12 @@
 #include <QPixmap>
 
 #include "demo/FrmClientes.h"
+#include "demo/FrmPedidos.h"
 #include "demo/FrmPrincipal.h"
+#include "demo/FrmProdutos.h"
 #include "demo/FrmRecibo.h"
+#include "demo/FrmVendedores.h"
+#include "forms/base/UWaitScreen.h"
 #include "forms/browse/UPesq_Master.h"
 #include "forms/browse/UPesquisa.h"
 #include "platform/data/DataSet.h"
@@ -18,6 +22,10 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const UnicodeString kTextoRico =
+    uR"({\rtf1\ansi\ansicpg1252{\colortbl;\red31\green95\blue168;}\pard\b Cuidados\b0\par )"
+    uR"(\pard Guardar em lugar \ul seco\ul0 , sobre \i paletes\i0 .\par \pard\qc\cf1 V\'e1lido por 90 dias\par})"_s;
 
 class TTour {
   public:
@@ -93,6 +101,74 @@ class TTour {
                 if (auto* lookup = dynamic_cast<TFrmPesq_Master*>(form)) lookup->FinishSearch();
             });
         Application->OnMessageBox = nullptr;
+    }
+
+    void Login() {
+        ShootModal({u"25-entrada"_s}, [this] { FMain.Identifica(); });
+    }
+
+    void Products() {
+        FMain.OpenProdutos();
+        Shoot(u"26-produtos"_s);
+        auto* products = dynamic_cast<TFrmProdutos*>(FMain.OpenForms().back());
+        products->CreateCad(2);
+        Shoot(u"27-produto-alterando"_s);
+        auto* form = dynamic_cast<TFrmCad_Master*>(products->ChildForm());
+        form->BtnTabSet->SetTabIndex(1);
+        form->MainDS->DataSet()->FieldByName(u"OBS"_s)->SetAsString(kTextoRico);
+        Shoot(u"28-produto-texto-rico"_s);
+        form->MainDS->DataSet()->Cancel();
+        form->Close();
+        Settle();
+        products->Close();
+        Settle();
+    }
+
+    void Orders() {
+        FMain.OpenPedidos();
+        Shoot(u"29-pedidos"_s);
+        auto* orders = dynamic_cast<TFrmPedidos*>(FMain.OpenForms().back());
+        orders->CreateCad(2);
+        Settle();
+        auto* form = dynamic_cast<TFrmCadPedido*>(orders->ChildForm());
+        form->GrdItens->SetFocus();
+        Shoot(u"30-pedido-alterando"_s);
+        int key = VK_F2;
+        form->GrdItens->OnKeyDown(form->GrdItens, key, 0);
+        Settle();
+        dynamic_cast<TFrmPesq_Master*>(form->ChildForm())->FinishSearch();
+        Shoot(u"31-procurar-produto"_s);
+        form->ChildForm()->Close();
+        Settle();
+        form->Close();
+        Settle();
+        orders->CreateCad(1);
+        Shoot(u"32-pedido-incluindo"_s);
+        orders->ChildForm()->Close();
+        Settle();
+        orders->Close();
+        Settle();
+    }
+
+    void Sellers() {
+        FMain.OpenVendedores();
+        Shoot(u"33-vendedores"_s);
+        auto* sellers = dynamic_cast<TFrmVendedores*>(FMain.OpenForms().back());
+        sellers->CreateCad(2);
+        Shoot(u"34-vendedor-alterando"_s);
+        sellers->ChildForm()->Close();
+        Settle();
+        sellers->Close();
+        Settle();
+    }
+
+    void Waiting() {
+        auto* wait = NewForm<TFrmWaitScreen>(Application);
+        Settle();
+        const UnicodeString path = JoinPath(FFolder, u"35-aguarde.png"_s);
+        wait->Widget()->grab().save(path);
+        fprintf(stdout, "%s\n", qPrintable(path));
+        wait->Free();
     }
 
     void TownLookup() {
@@ -221,6 +297,11 @@ int WriteTour(TFrmPrincipal& main, const UnicodeString& folder, const QSize& siz
     tour.Entries();
     tour.Registration();
     tour.TownLookup();
+    tour.Login();
+    tour.Products();
+    tour.Orders();
+    tour.Sellers();
+    tour.Waiting();
     tour.Towns();
     tour.LargeScreen();
     return 0;

@@ -4,7 +4,8 @@
 //
 //     comercial                      opens the main window
 //     comercial --banco FILE         another database file, by the embedded engine
-//     comercial --consulta           a user who may look, but not change
+//     comercial --usuario NAME       enters as that user of the sample (Gerente, Vendedor, Consulta)
+//                                    without asking
 //     comercial --turne DIR          writes a picture of every screen to DIR and ends (also --tour);
 //                                    --tamanho 800x600 sizes its main window, 1024x768 at first
 #include <QApplication>
@@ -30,21 +31,21 @@ struct TOptions {
     UnicodeString Database;
     UnicodeString TourFolder;
     QSize TourSize;
-    bool ReadOnly = false;
+    UnicodeString User;
 };
 
 TOptions ReadOptions(const QApplication& app) {
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addOption({u"banco"_s, u"Arquivo do banco de dados."_s, u"arquivo"_s});
-    parser.addOption({u"consulta"_s, u"Abre o programa para um usuário que só pode consultar."_s});
+    parser.addOption({u"usuario"_s, u"Entra como este usuário do exemplo, sem perguntar."_s, u"nome"_s});
     parser.addOption(
         {{u"turne"_s, u"tour"_s}, u"Grava uma imagem de cada tela na pasta e termina."_s, u"pasta"_s});
     parser.addOption({u"tamanho"_s, u"Tamanho da janela principal nas imagens."_s, u"LxA"_s, u"1024x768"_s});
     parser.process(app);
     const QStringList size = parser.value(u"tamanho"_s).split(u'x');
     return {parser.value(u"banco"_s), parser.value(u"turne"_s),
-            QSize(size.value(0).toInt(), size.value(1).toInt()), parser.isSet(u"consulta"_s)};
+            QSize(size.value(0).toInt(), size.value(1).toInt()), parser.value(u"usuario"_s)};
 }
 
 void PrepareDatabase(const UnicodeString& path) {
@@ -67,9 +68,10 @@ int RunHost(const TOptions& options) {
     }
     auto* main = NewForm<TFrmPrincipal>(Application, data);
     main->SetIcon(LoadIconResource(u":/fichario"_s, u"FICHARIO"_s));
-    if (options.ReadOnly) main->Clientes().SetRights({});
     if (configured && !main->Conecta()) return 1;
+    CompletarBanco(*data->Connection());
     if (!options.TourFolder.isEmpty()) return WriteTour(*main, options.TourFolder, options.TourSize);
+    if (!(options.User.isEmpty() ? main->Identifica() : main->Assume(options.User))) return 0;
     return Application->Run();
 }
 

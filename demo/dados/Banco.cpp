@@ -7,9 +7,11 @@
 #include <QFileInfo>
 #include <QLockFile>
 
+#include "demo/dados/CargaVendas.h"
 #include "demo/dados/Esquema.h"
 #include "platform/data/Connection.h"
 #include "platform/rtl/Exceptions.h"
+#include "platform/rtl/FileDraft.h"
 #include "platform/rtl/Files.h"
 #include "platform/system/Paths.h"
 
@@ -30,28 +32,6 @@ class TConexao {
 
   private:
     TFDConnection* FConnection;
-};
-
-// A file that goes away with the scope unless it was put in its place.
-class TRascunho {
-  public:
-    explicit TRascunho(const UnicodeString& path) : FPath(path) { QFile::remove(FPath); }
-    ~TRascunho() { QFile::remove(FPath); }
-    TRascunho(const TRascunho&) = delete;
-    TRascunho& operator=(const TRascunho&) = delete;
-
-    const UnicodeString& Path() const { return FPath; }
-
-    // QFile::rename does not replace a file, the system's own call does, at once.
-    void PorEm(const UnicodeString& path) const {
-        CheckFileFailure(path, foWrite);
-        const int result =
-            std::rename(QFile::encodeName(FPath).constData(), QFile::encodeName(path).constData());
-        if (result != 0) RaiseFileError(path, foWrite, errno);
-    }
-
-  private:
-    UnicodeString FPath;
 };
 
 // Waits for nobody; a lock whose holder has died does not count, however long the living one takes.
@@ -85,6 +65,7 @@ void Preencher(const UnicodeString& path, int clientes, const TProgresso& progre
     Executar(*connection, ComandosDasTabelas());
     Carregar(*connection, clientes, progresso);
     Executar(*connection, ComandosDosIndices());
+    CompletarBanco(*connection);
     connection->Close();
 }
 
@@ -102,9 +83,22 @@ void CriarBancoDeExemplo(const UnicodeString& path, int clientes, const TProgres
     EnsureFolder(QFileInfo(path).absolutePath());
     QLockFile trava(path + u".trava"_s);
     Travar(trava, path);
-    const TRascunho rascunho(path + u".novo"_s);
-    Preencher(rascunho.Path(), clientes, progresso);
-    rascunho.PorEm(path);
+    TFileDraft rascunho(path);
+    Preencher(rascunho.Name(), clientes, progresso);
+    rascunho.Commit();
+}
+
+// The last of its steps is one transaction, so that the users are there exactly when all of it is.
+void CompletarBanco(TFDConnection& connection) {
+    const auto ha = [&](const UnicodeString& consulta) {
+        return connection.ExecSQLScalar(consulta).ToInt() > 0;
+    };
+    if (!ha(u"SELECT COUNT(*) FROM RDB$RELATIONS WHERE RDB$RELATION_NAME = 'USUARIO'"_s))
+        Executar(connection, ComandosDeVendas());
+    if (ha(u"SELECT COUNT(*) FROM USUARIO"_s)) return;
+    connection.StartTransaction();
+    CarregarVendas(connection);
+    connection.Commit();
 }
 
 void ApontarConexao(TFDConnection& connection, const UnicodeString& path) {

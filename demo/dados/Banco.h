@@ -23,6 +23,10 @@ bool BancoExiste(const UnicodeString& path);
 // another process makes the same file.
 void CriarBancoDeExemplo(const UnicodeString& path, int clientes, const TProgresso& progresso = nullptr);
 
+// Gives a database that has only the customers, as earlier versions made them, the tables and rows of the
+// sales. Nothing when they are there. Raises EFDError.
+void CompletarBanco(TFDConnection& connection);
+
 // Sets the connection up for the file `path` with the embedded engine and the sample database's character
 // set.
 void ApontarConexao(TFDConnection& connection, const UnicodeString& path);

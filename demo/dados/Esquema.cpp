@@ -34,11 +34,68 @@ const UnicodeString kClientes =
     u"  TF_DEL CHAR(1) DEFAULT 'N' CHECK (TF_DEL IN ('S', 'N')),\n"
     u"  CONSTRAINT PK_CLIENTE PRIMARY KEY (CD_CLI))"_s;
 
-const UnicodeString kNumeracao =
-    u"CREATE TRIGGER CLIENTE_BI FOR CLIENTE ACTIVE BEFORE INSERT POSITION 0 AS\n"
-    u"BEGIN\n"
-    u"  IF (NEW.CD_CLI IS NULL) THEN NEW.CD_CLI = GEN_ID(GEN_CLIENTE, 1);\n"
-    u"END"_s;
+const UnicodeString kVendedores =
+    u"CREATE TABLE VENDEDOR (\n"
+    u"  CD_VEN INTEGER NOT NULL,\n"
+    u"  NM_VEN VARCHAR(60) NOT NULL COLLATE PT_BR,\n"
+    u"  NR_CPF VARCHAR(14),\n"
+    u"  DT_ADM DATE,\n"
+    u"  PR_COMISSAO NUMERIC(5,2),\n"
+    u"  CONSTRAINT PK_VENDEDOR PRIMARY KEY (CD_VEN))"_s;
+
+const UnicodeString kProdutos =
+    u"CREATE TABLE PRODUTO (\n"
+    u"  CD_PRO INTEGER NOT NULL,\n"
+    u"  NM_PRO VARCHAR(60) NOT NULL COLLATE PT_BR,\n"
+    u"  REFERENCIA VARCHAR(20) COLLATE PT_BR,\n"
+    u"  UNIDADE VARCHAR(3) NOT NULL,\n"
+    u"  VL_VENDA NUMERIC(15,2) NOT NULL,\n"
+    u"  QT_ESTOQUE NUMERIC(15,3),\n"
+    u"  PESO DOUBLE PRECISION,\n"
+    u"  OBS BLOB SUB_TYPE TEXT,\n"
+    u"  TF_DEL CHAR(1) DEFAULT 'N' CHECK (TF_DEL IN ('S', 'N')),\n"
+    u"  CONSTRAINT PK_PRODUTO PRIMARY KEY (CD_PRO))"_s;
+
+const UnicodeString kPedidos =
+    u"CREATE TABLE PEDIDO (\n"
+    u"  CD_PED INTEGER NOT NULL,\n"
+    u"  DT_PED DATE NOT NULL,\n"
+    u"  CD_CLI INTEGER NOT NULL,\n"
+    u"  CD_VEN INTEGER NOT NULL,\n"
+    u"  VL_TOTAL NUMERIC(15,2),\n"
+    u"  OBS VARCHAR(200),\n"
+    u"  TF_DEL CHAR(1) DEFAULT 'N' CHECK (TF_DEL IN ('S', 'N')),\n"
+    u"  CONSTRAINT PK_PEDIDO PRIMARY KEY (CD_PED),\n"
+    u"  CONSTRAINT FK_PEDIDO_CLIENTE FOREIGN KEY (CD_CLI) REFERENCES CLIENTE (CD_CLI),\n"
+    u"  CONSTRAINT FK_PEDIDO_VENDEDOR FOREIGN KEY (CD_VEN) REFERENCES VENDEDOR (CD_VEN))"_s;
+
+const UnicodeString kItens =
+    u"CREATE TABLE ITEM_PEDIDO (\n"
+    u"  CD_PED INTEGER NOT NULL,\n"
+    u"  NR_ITEM INTEGER NOT NULL,\n"
+    u"  CD_PRO INTEGER NOT NULL,\n"
+    u"  QT_ITEM NUMERIC(15,3) NOT NULL CHECK (QT_ITEM > 0),\n"
+    u"  VL_UNIT NUMERIC(15,2) NOT NULL,\n"
+    u"  VL_ITEM NUMERIC(15,2) NOT NULL,\n"
+    u"  CONSTRAINT PK_ITEM_PEDIDO PRIMARY KEY (CD_PED, NR_ITEM),\n"
+    u"  CONSTRAINT FK_ITEM_PEDIDO FOREIGN KEY (CD_PED) REFERENCES PEDIDO (CD_PED) ON DELETE CASCADE,\n"
+    u"  CONSTRAINT FK_ITEM_PRODUTO FOREIGN KEY (CD_PRO) REFERENCES PRODUTO (CD_PRO))"_s;
+
+const UnicodeString kUsuarios =
+    u"CREATE TABLE USUARIO (\n"
+    u"  NM_USU VARCHAR(20) NOT NULL COLLATE PT_BR,\n"
+    u"  SENHA CHAR(32) NOT NULL,\n"
+    u"  DIREITOS VARCHAR(200),\n"
+    u"  CONSTRAINT PK_USUARIO PRIMARY KEY (NM_USU))"_s;
+
+// A generator for the table's key, and the trigger that numbers what comes without one.
+TStringArray Numeracao(const UnicodeString& tabela, const UnicodeString& chave) {
+    return {u"CREATE SEQUENCE GEN_"_s + tabela,
+            u"CREATE TRIGGER %1_BI FOR %1 ACTIVE BEFORE INSERT POSITION 0 AS\n"
+            "BEGIN\n"
+            "  IF (NEW.%2 IS NULL) THEN NEW.%2 = GEN_ID(GEN_%1, 1);\n"
+            "END"_s.arg(tabela, chave)};
+}
 
 // One index over a column and the key, which makes every order a total one.
 UnicodeString Indice(const UnicodeString& tabela, const UnicodeString& coluna, const UnicodeString& chave) {
@@ -48,7 +105,9 @@ UnicodeString Indice(const UnicodeString& tabela, const UnicodeString& coluna, c
 }  // namespace
 
 TStringArray ComandosDasTabelas() {
-    return {kEstados, kMunicipios, kClientes, u"CREATE SEQUENCE GEN_CLIENTE"_s, kNumeracao};
+    TStringArray comandos = {kEstados, kMunicipios, kClientes};
+    for (const UnicodeString& comando : Numeracao(u"CLIENTE"_s, u"CD_CLI"_s)) comandos.push_back(comando);
+    return comandos;
 }
 
 TStringArray ComandosDosIndices() {
@@ -59,5 +118,20 @@ TStringArray ComandosDosIndices() {
     }
     // A search by date compares CAST(DT_CAD AS DATE), which only an index over that same expression serves.
     comandos.push_back(u"CREATE INDEX IX_CLIENTE_DIA_CAD ON CLIENTE COMPUTED BY (CAST(DT_CAD AS DATE))"_s);
+    return comandos;
+}
+
+TStringArray ComandosDeVendas() {
+    TStringArray comandos = {kVendedores, kProdutos, kPedidos, kItens, kUsuarios};
+    const std::pair<UnicodeString, UnicodeString> chaves[] = {
+        {u"VENDEDOR"_s, u"CD_VEN"_s}, {u"PRODUTO"_s, u"CD_PRO"_s}, {u"PEDIDO"_s, u"CD_PED"_s}};
+    for (const auto& [tabela, chave] : chaves) {
+        for (const UnicodeString& comando : Numeracao(tabela, chave)) comandos.push_back(comando);
+    }
+    for (const auto& coluna : {u"NM_PRO"_s, u"REFERENCIA"_s, u"VL_VENDA"_s})
+        comandos.push_back(Indice(u"PRODUTO"_s, coluna, u"CD_PRO"_s));
+    for (const auto& coluna : {u"DT_PED"_s, u"VL_TOTAL"_s})
+        comandos.push_back(Indice(u"PEDIDO"_s, coluna, u"CD_PED"_s));
+    comandos.push_back(u"CREATE INDEX IX_PEDIDO_DIA ON PEDIDO COMPUTED BY (CAST(DT_PED AS DATE))"_s);
     return comandos;
 }

@@ -1,4 +1,5 @@
-// The tables of the sample database "Comercial": states, towns and customers.
+// The tables of the sample database "Comercial": states, towns and customers, and those of the sales:
+// sellers, products, orders with their items, and users.
 //
 //     for (const UnicodeString& command : ComandosDasTabelas()) connection.ExecSQL(command, {});
 //     ... load the rows ...
@@ -21,3 +22,7 @@ TStringArray ComandosDasTabelas();
 // The commands that create the indexes. They run after the rows are in: building an index once is several
 // times quicker than keeping it up to date row by row.
 TStringArray ComandosDosIndices();
+
+// The tables of the sales with their generators, triggers and indexes, in the order in which they must run,
+// on a database that has the customers.
+TStringArray ComandosDeVendas();

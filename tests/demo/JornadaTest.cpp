@@ -1,77 +1,18 @@
 // The journey of a clerk, by key events only, checked over a second connection: find a customer, change it,
 // include one, soft-delete it, find it again among the deleted.
-#include <gtest/gtest.h>
-#include <QTemporaryDir>
-
-#include "demo/dados/Banco.h"
 #include "demo/FrmClientes.h"
-#include "demo/FrmPrincipal.h"
 #include "platform/data/DataSet.h"
-#include "platform/system/Paths.h"
-#include "platform/ui/Application.h"
-#include "tests/support/Screen.h"
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/demo/Balcao.h"
 
 namespace {
 
-constexpr int kPergunta = 36;
-constexpr int kAviso = 48;
-
-class Jornada : public testing::Test {
+class Jornada : public Balcao {
   protected:
-    void SetUp() override {
-        SetProgramFolder(Folder.path());
-        const UnicodeString path = Folder.filePath(u"c.fdb"_s);
-        CriarBancoDeExemplo(path, 300);
-        Data->OpenDatabase(path);
-        ApontarConexao(*Second, path);
-        Main = NewForm<TFrmPrincipal>(Application, Data);
-        Settle();
-    }
-    void TearDown() override {
-        Main->Free();
-        Data->Free();
-        Second->Free();
-        SetProgramFolder({});
-    }
-    TFrmClientes* Clientes() const {
-        return Main->OpenForms().empty() ? nullptr : dynamic_cast<TFrmClientes*>(Main->OpenForms().front());
-    }
-    TFrmBase* Ficha() const { return Clientes()->ChildForm(); }
-    UnicodeString Current(const UnicodeString& field) const {
-        return Clientes()->MainDS->DataSet()->FieldByName(field)->AsString();
-    }
-    UnicodeString Stored(const UnicodeString& sql) { return Second->ExecSQLScalar(sql).ToText(); }
-    void Search(const UnicodeString& text) {
-        Press(VK_F3);
-        Press('A', ssCtrl);
-        TypeText(text);
-        EXPECT_TRUE(Until([&] { return !Clientes()->LookingForRecords; }));
-        Press(VK_RETURN);
-    }
-    bool FichaClosed() {
-        return Until([&] { return !Ficha(); });
-    }
-
-    void OpenClientes();
     void IncludeCustomer();
     void FindAndChange();
     void CancelAChange();
     void DeleteAndFindAgain();
-
-    QTemporaryDir Folder;
-    TDM_Comercial* Data = new TDM_Comercial(nullptr);
-    TFDConnection* Second = new TFDConnection(nullptr);
-    TFrmPrincipal* Main = nullptr;
 };
-
-void Jornada::OpenClientes() {
-    Press('C', ssAlt);  // &Cadastros
-    Press('C');         // &Clientes...
-    ASSERT_TRUE(Until([&] { return Clientes() != nullptr; }));
-    ASSERT_TRUE(Until([&] { return Clientes()->RecordCount() > 0; }));
-}
 
 // Include: the required name is asked for, a wrong CPF refused, then the record is posted and stands in the
 // grid.
@@ -129,21 +70,21 @@ void Jornada::CancelAChange() {
 
 // Delete: the row stays, marked, and leaves the grid until the deleted ones are shown.
 void Jornada::DeleteAndFindAgain() {
-    Click(Clientes()->BtnExcluir);
+    Click(Lista()->BtnExcluir);
     ASSERT_TRUE(Ficha());
     ExpectBox(u"Tem certeza que deseja excluir esse registro?"_s, u"Confirmação"_s, kPergunta, IDYES);
     Press(VK_F12);
     ASSERT_TRUE(FichaClosed());
     EXPECT_EQ(Stored(u"SELECT TF_DEL FROM CLIENTE WHERE NM_CLI STARTING WITH 'Zélia'"_s), u"S"_s);
     Search(u"zelia"_s);
-    EXPECT_TRUE(Clientes()->MainDS->DataSet()->IsEmpty());
-    Clientes()->ExibirRegistrosExcludos1->Click();
+    EXPECT_TRUE(Lista()->MainDS->DataSet()->IsEmpty());
+    Lista()->ExibirRegistrosExcludos1->Click();
     Search(u"zelia"_s);
     EXPECT_EQ(Current(u"TF_DEL"_s), u"S"_s);
 }
 
 TEST_F(Jornada, OfAClerk) {
-    ASSERT_NO_FATAL_FAILURE(OpenClientes());
+    ASSERT_NO_FATAL_FAILURE(OpenList('C'));
     ASSERT_NO_FATAL_FAILURE(IncludeCustomer());
     ASSERT_NO_FATAL_FAILURE(FindAndChange());
     ASSERT_NO_FATAL_FAILURE(CancelAChange());

@@ -2,7 +2,8 @@
 // mnemonics of a form; and the lookup of a town, by keys.
 #include <gtest/gtest.h>
 #include <QAccessible>
-#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "demo/dados/Banco.h"
@@ -79,6 +80,9 @@ class Telas : public testing::Test {
 
 TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     ExpectUsable(Main);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_TRUE(Main->Width() <= screen.width() && Main->Top() + Main->Height() <= screen.bottom() + 1);
+    EXPECT_GT(Main->Top(), screen.top()) << "the caption is within reach";
     for (TFrmBase* form : Main->OpenForms()) ExpectUsable(form);
     const auto walk = [](TForm* form) {
         ExpectUsable(form);
@@ -90,6 +94,8 @@ TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     Main->OpenRecibo();
     ExpectModal(walk);
     Main->OpenConexao();
+    ExpectModal(walk);
+    Main->Identifica();
     Clientes->Filtros1->Click();
     ExpectUsable(Clientes->ChildForm());
     Press(VK_ESCAPE);
@@ -105,25 +111,22 @@ TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     ficha->ChildForm()->Close();
 }
 
-TEST_F(Telas, CompanysStateRegistrationIsChecked) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(INSCEST_LIBRARY), Folder.filePath(u"libDllInscE32.so"_s)));
-    Press(VK_INSERT);
-    auto* ficha = dynamic_cast<TFrmCad_Master*>(Clientes->ChildForm());
-    TDataSet* record = ficha->MainDS->DataSet();
-    const std::pair<const char16_t*, const char16_t*> values[] = {{u"NM_CLI", u"Mercado"},
-                                                                  {u"NR_CPF", u"11222333000181"},
-                                                                  {u"NM_EST", u"SP"},
-                                                                  {u"NR_INS_EST", u"110042490115"}};
-    for (const auto& [field, value] : values)
-        record->FieldByName(QString::fromUtf16(field))->SetAsString(QString::fromUtf16(value));
-    ExpectBox(u"Inscrição Estadual inválida! Entre com uma Inscrição Estadual válido antes de prosseguir."_s,
-              u"Aviso"_s, MB_ICONWARNING);
-    Press(VK_F12);
-    EXPECT_TRUE(Find<TControl>(ficha, u"DbNR_INS_EST"_s)->Focused());
-    record->FieldByName(u"NR_INS_EST"_s)->SetAsString(u"110042490114"_s);
-    ExpectBox(u"Confirma os dados?"_s, u"Confirmação"_s, MB_YESNO | MB_ICONQUESTION, IDYES);
-    Press(VK_F12);
-    EXPECT_TRUE(Until([&] { return !Clientes->ChildForm(); }));
+TEST_F(Telas, SalesScreensAreUsableToo) {
+    const std::function<void()> openings[] = {[this] { Main->OpenPedidos(); },
+                                              [this] { Main->OpenProdutos(); },
+                                              [this] { Main->OpenVendedores(); }};
+    for (const auto& open : openings) {
+        open();
+        auto* list = dynamic_cast<TFrmViz_Master*>(Main->OpenForms().back());
+        ExpectUsable(list);
+        Press(VK_INSERT);
+        ASSERT_TRUE(list->ChildForm());
+        ExpectUsable(list->ChildForm());
+        Press(VK_ESCAPE);
+        ASSERT_TRUE(Until([&] { return !list->ChildForm(); }));
+        list->Close();
+        Settle();
+    }
 }
 
 TEST_F(Telas, TownIsLookedUpFromTheCustomersForm) {

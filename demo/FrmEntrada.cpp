@@ -1,0 +1,57 @@
+#include "demo/FrmEntrada.h"
+
+#include "platform/ui/Application.h"
+#include "platform/ui/ListBoxes.h"
+#include "platform/ui/StdCtrls.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kWidth = 360;
+constexpr int kLabelHeight = 18;
+constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
+constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
+
+QRect Row(int row) {
+    return {kMargin, kTop + row * kRowHeight, kWidth - 2 * kMargin, kEditHeight};
+}
+
+}  // namespace
+
+TFrmEntrada::TFrmEntrada(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData)
+    : TFrmEnt_Master(AOwner, AModule, AModule->Info(), {}), FData(AData) {}
+
+void TFrmEntrada::CreateControls() {
+    TFrmEnt_Master::CreateControls();
+    SetCaption(u"Entrada"_s);
+    SetClientWidth(kWidth);
+    SetClientHeight(kTop + 2 * kRowHeight + kLabelHeight + kMargin);
+    auto* user = NewControl<TLabel>(this, this, u"LbUsuario"_s, Row(0));
+    user->SetCaption(u"&Usuário"_s);
+    FNome = NewControl<TComboBox>(this, this, u"CbUsuario"_s, Row(0).translated(0, kLabelHeight));
+    FNome->SetAccessibleName(u"Usuário"_s);
+    for (const UnicodeString& nome : NomesDosUsuarios(*FData->Connection())) FNome->Items()->Add(nome);
+    FNome->SetItemIndex(std::max(0, FNome->Items()->IndexOf(u"Gerente"_s)));
+    user->SetFocusControl(FNome);
+    auto* password = NewControl<TLabel>(this, this, u"LbSenha"_s, Row(1));
+    password->SetCaption(u"&Senha"_s);
+    FSenha = NewControl<TEdit>(this, this, u"EdtSenha"_s, Row(1).translated(0, kLabelHeight));
+    FSenha->SetAccessibleName(u"Senha"_s);
+    FSenha->SetPasswordChar(true);
+    password->SetFocusControl(FSenha);
+    auto* hint = NewControl<TLabel>(this, this, u"LbDica"_s, Row(2));
+    hint->SetCaption(u"No banco de exemplo as senhas são vazias."_s);
+}
+
+void TFrmEntrada::BtnConfirmarClick(TComponent* Sender) {
+    const auto entrou = Entrar(*FData->Connection(), FNome->Text(), FSenha->Text());
+    if (entrou) {
+        FUsuario = *entrou;
+        return TFrmEnt_Master::BtnConfirmarClick(Sender);
+    }
+    Application->MessageBox(u"Usuário ou senha inválidos."_s, u"Aviso"_s, MB_ICONWARNING);
+    FSenha->SetFocus();
+    FSenha->SelectAll();
+}
