@@ -10,22 +10,24 @@
 //                page, allowed 1.5 after 16 ms are taken off
 // Repaint        the page at a random place of all rows loaded; `ratio` over a table view on a model that
 //                holds its texts in memory, `worst_ms` of all frames (allowed: 16)
+// LoadList       all rows into a list's grid, and a picture of it; `ours` over the bare fetch of the same
+//                columns, the median of the rounds (allowed: 1.25)
 // LocateInList   one key typed in list mode that finds nothing, over all rows loaded (allowed: 8 ms)
 #include <benchmark/benchmark.h>
 #include <algorithm>
-#include <chrono>
 #include <QApplication>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <random>
 
+#include "bench/Comparison.h"
 #include "bench/ModeloEmMemoria.h"
+#include "bench/RawClient.h"
 #include "demo/dados/Banco.h"
 #include "demo/DmComercial.h"
 #include "demo/FrmClientes.h"
 #include "demo/FrmPrincipal.h"
-#include "platform/data/firebird/RawFetch.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/Palette.h"
@@ -75,18 +77,6 @@ UnicodeString Database(int rows) {
     return path;
 }
 
-template <class Work>
-double SecondsOf(Work work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void OpenClientes(benchmark::State& state) {
     TScreen screen(Database(int(state.range(0))));
     screen.Main->OpenClientes();  // the first time in a connection reads the server's own tables
@@ -129,8 +119,8 @@ void Search(benchmark::State& state) {
         state.SetIterationTime(spent);
         auto* query = dynamic_cast<TFDQuery*>(clientes->MainDS->DataSet());
         const UnicodeString sql = query->SQL()->Text();
-        const double raw = SecondsOf(
-            [&] { fichario::FetchRaw(*screen.Data->Connection()->RequireAttachment(), sql, kFirstPage); });
+        const double raw =
+            SecondsOf([&] { FetchRaw(*screen.Data->Connection()->RequireAttachment(), sql, kFirstPage); });
         ratios.push_back(std::max(0.0, spent - kFrame) / raw);
     }
     state.counters["ratio"] = Median(ratios);
@@ -188,6 +178,22 @@ class TFrmLista : public TFrmViz_Master {
     TDM_Comercial* FData;
 };
 
+void LoadList(benchmark::State& state) {
+    TScreen screen(Database(int(state.range(0))));
+    TModuleInstance module(screen.Main, {u"LISTA"_s, u"Lista"_s, {}});
+    auto* list = NewForm<TFrmLista>(Application, &module, screen.Data);
+    auto* query = dynamic_cast<TFDQuery*>(list->MainDS->DataSet());
+    const UnicodeString sql = query->SQL()->Text();
+    const auto load = [&] {
+        query->Close();
+        query->Open();
+        query->Last();
+        list->Widget()->grab();
+    };
+    Compare(state, [&] { FetchRaw(*screen.Data->Connection()->RequireAttachment(), sql); }, {{"ours", load}});
+    list->Free();
+}
+
 void LocateInList(benchmark::State& state) {
     TScreen screen(Database(int(state.range(0))));
     TModuleInstance module(screen.Main, {u"LISTA"_s, u"Lista"_s, {}});
@@ -225,6 +231,7 @@ int main(int argc, char** argv) {
     Register("OpenFicha", OpenFicha, 20, false);
     Register("Search", Search, 40, true);
     Register("Repaint", Repaint, 200, true);
+    Register("LoadList", LoadList, 15, true);
     Register("LocateInList", LocateInList, 20, false);
     std::vector<char*> arguments(argv, argv + argc);
     char interleaved[] = "--benchmark_enable_random_interleaving=true";
