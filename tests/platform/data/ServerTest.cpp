@@ -87,10 +87,16 @@ TEST_F(Mortal, LosesNothingWhenItDies) {
         });
         return QString();
     };
+    const auto limit = [&](const QStringList& a) {
+        FConnection->Close();
+        FConnection->Params()->SetValue(u"StatementTimeout"_s, a[0]);
+        FQuery->Open();
+        return QString();
+    };
     const auto down = [&](const QStringList& a) {
         return MessageOf([&] { Do(a); }).startsWith(u"lost: ") ? "yes" : "no";
     };
-    Run("queda", {{"Server", server}, {"KillAtCommit", killAtCommit}, {"Down", down}});
+    Run("queda", {{"Server", server}, {"KillAtCommit", killAtCommit}, {"Limit", limit}, {"Down", down}});
 }
 
 }  // namespace
