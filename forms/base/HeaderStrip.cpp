@@ -25,7 +25,8 @@ TStripLayout THeaderStrip::Lay(int top, int width, int buttonsLeft, int buttonsW
     layout.ButtonsBar = QRect(buttonsLeft, top, buttonsWidth, kHeight);
     layout.Efect = QRect(efect, top, EfectWidth(), kHeight);
     layout.BlueBar = QRect(blue, top, std::max(blueEnd - blue, 0), kHeight);
-    layout.EndEfect = QRect(width - EndWidth(), top, EndWidth(), kHeight);
+    if (left || buttonsRight <= width - EndWidth())
+        layout.EndEfect = QRect(width - EndWidth(), top, EndWidth(), kHeight);
     return layout;
 }
 

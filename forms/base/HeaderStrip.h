@@ -50,7 +50,8 @@ class THeaderStrip {
     int EndWidth() const { return FEndEfect.Width; }
 
     // Places the parts in a strip whose upper edge is `top`, in a client area of `width`; the buttons begin
-    // at `buttonsLeft` and are `buttonsWidth` wide. Parts without room are empty.
+    // at `buttonsLeft` and are `buttonsWidth` wide. Parts without room are empty, the closing edge also where
+    // the buttons stand in its place.
     TStripLayout Lay(int top, int width, int buttonsLeft, int buttonsWidth) const;
 
     void Paint(QPainter& painter, const TStripLayout& layout);

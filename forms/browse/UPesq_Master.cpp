@@ -100,8 +100,7 @@ void TFrmPesq_Master::PlaceControls() {
     PnPesquisa->SetTop(kSearchTop);
     FixPesqPanel();
     const int width = TBButtons->ButtonCount() * TBButtons->ButtonWidth() + 2;
-    TBButtons->SetBounds(ClientWidth() - FHeader.EndWidth() - width, kButtonsTop, width,
-                         THeaderStrip::kButtonsHeight - kButtonsTop);
+    TBButtons->SetBounds(ClientWidth() - width, kButtonsTop, width, THeaderStrip::kButtonsHeight);
     TBButtons->SetAnchors(akTop | akRight);
     for (TLabel* label : {Label1, Label2}) {
         label->SetFontColor(Cores::Trabalho);

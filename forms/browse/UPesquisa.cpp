@@ -112,6 +112,7 @@ Variant TFrmPesquisa::TypedValue(TMaskEdit* edit, const TField& field) {
     try {
         return StrToVarType(FromPickList(GridForm()->DBGrd->Columns(), field, edit->Text()), field);
     } catch (const EConvertError&) {
+        edit->SelectAll();
         throw Exception(u"Valor inválido."_s);
     }
 }
@@ -124,7 +125,6 @@ Variant TFrmPesquisa::ValueOf(TMaskEdit* edit, TDateTimePicker* picker, const TF
         return TypedValue(edit, field);
     } catch (const Exception&) {
         if (edit->CanFocus()) edit->SetFocus();
-        edit->SelectAll();
         throw;
     }
 }

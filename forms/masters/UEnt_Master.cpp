@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kClientWidth = 334;
 constexpr int kClientHeight = 191;
+constexpr int kMostClientHeight = 517;
 constexpr int kButtonsTop = 4;
 constexpr int kLeastButtonHeight = 21;
 constexpr int kLeastButtonWidth = 65;
@@ -36,6 +37,9 @@ void TFrmEnt_Master::CreateControls() {
     SetCaption(u"FrmEnt_Master"_s);
     SetClientWidth(kClientWidth);
     SetClientHeight(kClientHeight);
+    SetMinWidth(Width());
+    SetMinHeight(Height());
+    SetMaxHeight(Height() + kMostClientHeight - kClientHeight);
     SetColor(Cores::Trabalho);
     TBButtons = NewControl<TToolBar>(this, this, u"TBButtons"_s);
     TBButtons->SetAccessibleName(u"Ações"_s);
@@ -76,8 +80,7 @@ void TFrmEnt_Master::FormCreate(TComponent* Sender) {
     LoadBitmaps();
     TBButtons->SetImages(ImgLst);
     const int width = TBButtons->sizeHint().width();
-    TBButtons->SetBounds(ClientWidth() - FHeader.EndWidth() - width, kButtonsTop, width,
-                         THeaderStrip::kButtonsHeight - kButtonsTop);
+    TBButtons->SetBounds(ClientWidth() - width, kButtonsTop, width, THeaderStrip::kButtonsHeight);
     LockSize();
 }
 

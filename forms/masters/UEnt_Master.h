@@ -7,7 +7,8 @@
 //     if (form->ShowModal() == 1) Use(form->Valor());      // 1: confirmed
 //     form->Free();
 //
-// Controls begin below kStripBottom. A window of its own, centred over its opener; nothing is remembered.
+// Controls begin below kStripBottom. The host chooses a client area from 334 × 191 up to a height of 517; the
+// create event fixes the size. A window of its own, centred over its opener; nothing is remembered.
 #pragma once
 
 #include "forms/base/HeaderStrip.h"

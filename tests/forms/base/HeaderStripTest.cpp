@@ -27,6 +27,7 @@ TEST(HeaderStrip, CoversTheWidthWithoutGapsOrOverlaps) {
         EXPECT_EQ(part.height(), THeaderStrip::kHeight);
     }
     EXPECT_TRUE(left.Lay(25, 190, 0, 180).BlueBar.isEmpty());
+    EXPECT_TRUE(right.Lay(0, 600, 420, 180).EndEfect.isEmpty());
 }
 
 // At twice the pixels the strip is drawn anew, not enlarged: its edge has steps that no doubled pixel has.

@@ -17,7 +17,7 @@ class TFrmPergunta : public TFrmEnt_Master {
     void CreateControls() override {
         TFrmEnt_Master::CreateControls();
         SetClientWidth(400);
-        SetClientHeight(240);
+        SetClientHeight(600);
         First = NewControl<TEdit>(this, this, u"EdtA"_s, QRect(16, kStripBottom + 16, 100, kEditHeight));
         Second = NewControl<TEdit>(this, this, u"EdtB"_s, QRect(132, kStripBottom + 16, 100, kEditHeight));
         Grid = NewControl<TDBGrid>(this, this, u"Grd"_s, QRect(16, kStripBottom + 60, 300, 80));
@@ -37,7 +37,9 @@ TEST_F(EntMaster, HasTheHostsSizeForGoodAndRoomInItsGrid) {
     const QSize size(form->Width(), form->Height());
     form->SetBounds(0, 0, 900, 900);
     EXPECT_EQ(QSize(form->Width(), form->Height()), size);
-    EXPECT_EQ(form->ClientWidth(), 400);
+    EXPECT_EQ(QSize(form->ClientWidth(), form->ClientHeight()), QSize(400, 517));
+    const TToolBar& bar = *form->TBButtons;
+    EXPECT_EQ(bar.geometry(), QRect(400 - bar.Width(), 4, bar.Width(), 51));
     EXPECT_EQ(form->Grid->Columns()[1]->Width(), 100 - TForm::VerticalScrollBarWidth());
     EXPECT_EQ(form->TagStr(), u"x"_s);
     form->FixButtons();
