@@ -26,8 +26,7 @@ TDBEdit::~TDBEdit() {
 
 void TDBEdit::ShowField() {
     const QScopedValueRollback showing(FShowing, true);
-    const bool text = Field() && (Field()->DataType() == ftString || Field()->DataType() == ftFixedChar);
-    SetMaxLength(text && Field()->EditMask().isEmpty() ? Field()->Size() : 0);
+    SetMaxLength(TypedLimit(Field()));
     if (Field() && EditMask() != Field()->EditMask()) SetEditMask(Field()->EditMask());
     SetAlignment(Field() ? Field()->Alignment() : taLeftJustify);
     SetText(FieldText(Focused() && FLink.CanModify()));

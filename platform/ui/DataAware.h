@@ -7,6 +7,9 @@
 class QWidget;
 class TDataSource;
 
+// How many characters may be typed for the field; 0 is no limit. With an edit mask its places are the limit.
+int TypedLimit(const TField* field);
+
 class TDataAware {
   public:
     TDataSource* DataSource() const { return FLink.DataSource(); }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include "platform/ui/OneLine.h"
 #include "platform/ui/StdCtrls.h"
 
 namespace {
@@ -10,6 +11,7 @@ constexpr int kNoLimit = 32767;
 }  // namespace
 
 TEdit::TEdit(TComponent* owner) : TWidget(owner) {
+    setValidator(new TOneLine(this));
     connect(this, &QLineEdit::textChanged, this, [this] { CalledByQt(this, [this] { Change(); }); });
 }
 

@@ -3,9 +3,13 @@
 #include <QKeyEvent>
 #include "platform/data/DataSet.h"
 #include "platform/data/DataSource.h"
+#include "platform/ui/DataAware.h"
 #include "platform/ui/Guard.h"
+#include "platform/ui/OneLine.h"
 
 namespace {
+
+constexpr int kNoLimit = 32767;
 
 bool BelongsToGrid(const QKeyEvent& event) {
     switch (event.key()) {
@@ -25,6 +29,7 @@ bool BelongsToGrid(const QKeyEvent& event) {
 
 TGridEditor::TGridEditor(TDBGrid& grid) : QLineEdit(grid.viewport()), FGrid(grid) {
     setFrame(false);
+    setValidator(new TOneLine(this));
     setTextMargins(3, 1, 3, 0);
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { CalledByQt(&FGrid, [this] { Change(); }); });
@@ -52,6 +57,8 @@ void TGridEditor::Place(QRect cell) {
 void TGridEditor::ShowField() {
     const TField* field = FColumn->Field();
     FChanged = false;
+    const int limit = TypedLimit(field);
+    setMaxLength(limit > 0 ? limit : kNoLimit);
     setText(field ? field->Text() : UnicodeString());
     selectAll();
 }

@@ -1,6 +1,8 @@
 #include "tests/support/ScreenScript.h"
 
 #include <gtest/gtest.h>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeySequence>
 
 #include "platform/data/DataSet.h"
@@ -187,6 +189,7 @@ class TScreen {
         if (verb == "press") return Press(rest);
         if (verb == "type") return TypeText(rest);
         if (verb == "commit") return CommitText(rest);
+        if (verb == "paste") return QGuiApplication::clipboard()->setText(rest), Press("Ctrl+V");
         if (rest.startsWith("is ")) {
             EXPECT_EQ(Seen(verb), rest.mid(3)) << qPrintable(step);
             return;
