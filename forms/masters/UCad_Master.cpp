@@ -109,9 +109,18 @@ void TFrmCad_Master::OpenOwnRecord() {
     FSQL = query->SQL()->Text();
     FWhere = KeyWhere(*OwnerView()->MainDS->DataSet(), *query, FOperation == kIncluir);
     OpenWhere(*query, FWhere);
+    if (FOperation != kIncluir && query->IsEmpty()) RefuseGoneRecord();
+}
+
+// Without its record the form would edit a new one. The list loses the row as well.
+void TFrmCad_Master::RefuseGoneRecord() const {
+    OwnerView()->MainDS->DataSet()->Refresh();
+    OwnerView()->GetRecordCount();
+    throw Exception(u"Este registro foi excluído por outro usuário."_s);
 }
 
 void TFrmCad_Master::PrepareOwned() {
+    if (FMainDataSet->Fields().empty()) FMainDataSet->DescribeFields();
     LeaveScrollBarRoom(*this);
     for (int i = 0; i < ComponentCount(); ++i) {
         TComponent* component = Components(i);
@@ -229,6 +238,7 @@ void TFrmCad_Master::FormCloseQuery(TComponent*, bool& CanClose) {
 void TFrmCad_Master::FormClose(TComponent* Sender, TCloseAction& Action) {
     TFrmBase::FormClose(Sender, Action);
     if (!FClose && FMainDataSet->State() != dsInactive) FMainDataSet->Cancel();
+    Application->OnActiveControlChange = nullptr;
     try {
         UpdateOwner();
     } catch (const EAbort&) {

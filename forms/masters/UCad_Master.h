@@ -41,7 +41,7 @@ class TFrmCad_Master : public TFrmBase {
   public:
     // Owner is normally the view master, which stays in sight behind the form. LoadWindowConfig: the geometry
     // is restored and saved. Building the form raises when MainDS has no dataset, and when KeyType is
-    // ktFieldProviderFlag but the owner is no view master.
+    // ktFieldProviderFlag but the owner is no view master, or the view's record is not there any more.
     TFrmCad_Master(TComponent* Owner, TModuleInstance* Module, unsigned char Mode, TKeyType KeyType,
                    bool LoadWindowConfig);
 
@@ -82,7 +82,8 @@ class TFrmCad_Master : public TFrmBase {
     TIceTabSet* BtnTabSet = nullptr;
     TDataSource* MainDS = nullptr;
 
-    // Handlers of the form and its controls.
+    // Handlers of the form and its controls. FormClose also clears Application->OnActiveControlChange: a host
+    // that listens sets it again.
     void FormClose(TComponent* Sender, TCloseAction& Action) override;
     void FormKeyPress(TComponent* Sender, WideChar& Key) override;
     virtual void FormCloseQuery(TComponent* Sender, bool& CanClose);
@@ -117,6 +118,7 @@ class TFrmCad_Master : public TFrmBase {
     void ShowMode();
     void ShowViewMode();
     void OpenOwnRecord();
+    [[noreturn]] void RefuseGoneRecord() const;
     void PrepareOwned();
     void PrepareFields(const TDataSet& DataSet);
     void PrepareNumber(TNumericField& Field);

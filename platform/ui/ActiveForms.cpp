@@ -121,7 +121,9 @@ void TActiveForms::Enter(TForm* form, TControl* control) {
         form->FEntered = control;
         control->DoEnter();
     }
-    if (changes && Application && Application->OnActiveControlChange) Application->OnActiveControlChange();
+    if (!changes || !Application) return;
+    const auto tell = Application->OnActiveControlChange;  // which the handler may clear
+    if (tell) tell();
 }
 
 void TActiveForms::Leave(TForm* form) {

@@ -114,8 +114,10 @@ TEST_F(CadMaster, AsksBeforeThrowingChangesAway) {
     ASSERT_TRUE(Closed());
     EXPECT_EQ(Scalar("SELECT NM_CLI FROM CLIENTE WHERE ID_CLI = 1"), u"ANA"_s);
     Press(VK_RETURN);
+    Application->OnActiveControlChange = [] {};
     Press(VK_ESCAPE);  // nothing changed, nothing asked
     EXPECT_TRUE(Closed());
+    EXPECT_FALSE(Application->OnActiveControlChange);
 }
 
 TEST_F(CadMaster, DeletesByMarkingOrForReal) {
@@ -250,7 +252,25 @@ TEST_F(CadMaster, WorksAGridByKeys) {
     EXPECT_TRUE(Closed());
 }
 
+// Its query is opened by the form, and described by nobody before.
+class TFrmSemLista : public TFrmCad_Master {
+  public:
+    TFrmSemLista(TComponent* owner, TModuleInstance* module, TFDConnection* connection)
+        : TFrmCad_Master(owner, module, kIncluir, ktNone, false), FQuery(new TFDQuery(this)) {
+        FQuery->SetConnection(connection);
+        FQuery->SQL()->SetText(u"SELECT VL_LIM FROM CLIENTE"_s);
+    }
+    void CreateControls() override {
+        TFrmCad_Master::CreateControls();
+        MainDS->SetDataSet(FQuery);
+    }
+    TFDQuery* FQuery;
+};
+
 TEST_F(CadMaster, RoundsFloatsAsTheModuleSays) {
+    TField* own = NewForm<TFrmSemLista>(Main, &Module, Caso.Connection)->FQuery->FieldByName(u"VL_LIM"_s);
+    own->SetAsFloat(2.675);
+    EXPECT_EQ(own->AsFloat(), 2.68);
     TFrmTesteCliente* form = Open(vtFilter, VK_RETURN);
     TField* limit = form->MainDS->DataSet()->FieldByName(u"VL_LIM"_s);
     limit->SetAsFloat(2.6745);
