@@ -20,21 +20,31 @@ void Directly(Body body) {
     status.dispose();
 }
 
+// Executes a prepared statement and fetches from it; `use` is called for each row.
+template <class Use>
+int64_t FetchFrom(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& statement,
+                  Firebird::IMessageMetadata& format, Transaction& transaction, int firstOnly, Use use) {
+    std::vector<uint8_t> row(format.getMessageLength(&status));
+    int64_t rows = 0;
+    Firebird::IResultSet* cursor =
+        statement.openCursor(&status, transaction.Handle(), nullptr, nullptr, &format, 0);
+    while ((firstOnly == 0 || rows < firstOnly) &&
+           cursor->fetchNext(&status, row.data()) == Firebird::IStatus::RESULT_OK) {
+        use(row.data());
+        ++rows;
+    }
+    cursor->close(&status);
+    return rows;
+}
+
 template <class Use>
 int64_t Fetch(Attachment& attachment, const UnicodeString& sql, int firstOnly, Use use) {
     const StatementLease statement = attachment.Prepare(sql);
     const std::shared_ptr<Transaction> transaction = attachment.Reading();
-    std::vector<uint8_t> row(statement->RowBytes());
     int64_t rows = 0;
     Directly([&](Firebird::ThrowStatusWrapper& status) {
-        Firebird::IResultSet* cursor = statement->Handle()->openCursor(
-            &status, transaction->Handle(), nullptr, nullptr, statement->RowFormat(), 0);
-        while ((firstOnly == 0 || rows < firstOnly) &&
-               cursor->fetchNext(&status, row.data()) == Firebird::IStatus::RESULT_OK) {
-            use(statement->Columns(), row.data());
-            ++rows;
-        }
-        cursor->close(&status);
+        rows = FetchFrom(status, *statement->Handle(), *statement->RowFormat(), *transaction, firstOnly,
+                         [&](const uint8_t* row) { use(statement->Columns(), row); });
     });
     return rows;
 }
@@ -93,6 +103,20 @@ class Message {
 
 int64_t FetchRaw(Attachment& attachment, const UnicodeString& sql, int firstOnly) {
     return Fetch(attachment, sql, firstOnly, [](const ColumnList&, const uint8_t*) {});
+}
+
+void OpenRaw(Attachment& attachment, const UnicodeString& sql, int rows) {
+    const QByteArray text = sql.toLatin1();
+    const std::shared_ptr<Transaction> transaction = attachment.Reading();
+    Directly([&](Firebird::ThrowStatusWrapper& status) {
+        Firebird::IStatement* statement = attachment.Handle()->prepare(
+            &status, transaction->Handle(), static_cast<unsigned>(text.size()), text.constData(),
+            SQL_DIALECT_V6, Firebird::IStatement::PREPARE_PREFETCH_METADATA);
+        Firebird::IMessageMetadata* format = statement->getOutputMetadata(&status);
+        FetchFrom(status, *statement, *format, *transaction, rows, [](const uint8_t*) {});
+        format->release();
+        statement->free(&status);
+    });
 }
 
 int64_t FetchTyped(Attachment& attachment, const UnicodeString& sql) {
