@@ -67,14 +67,14 @@ void TFrameRichText::CreateBar(TComponent* owner) {
     UnderlineButton = AddButton(u"UnderlineButton"_s, u"Sublinhado (Ctrl+U)"_s, u"TXT_SUBLINHADO"_s,
                                 &TFrameRichText::UnderlineButtonClick);
     ToolButton3 = AddSeparator(u"ToolButton3"_s);
-    LeftAlign = AddButton(u"LeftAlign"_s, u"Alinhar à esquerda"_s, u"TXT_ESQUERDA"_s,
+    LeftAlign = AddButton(u"LeftAlign"_s, u"Alinhar à esquerda (Ctrl+L)"_s, u"TXT_ESQUERDA"_s,
                           &TFrameRichText::LeftAlignClick);
-    CenterAlign =
-        AddButton(u"CenterAlign"_s, u"Centralizar"_s, u"TXT_CENTRO"_s, &TFrameRichText::CenterAlignClick);
-    RightAlign = AddButton(u"RightAlign"_s, u"Alinhar à direita"_s, u"TXT_DIREITA"_s,
+    CenterAlign = AddButton(u"CenterAlign"_s, u"Centralizar (Ctrl+E)"_s, u"TXT_CENTRO"_s,
+                            &TFrameRichText::CenterAlignClick);
+    RightAlign = AddButton(u"RightAlign"_s, u"Alinhar à direita (Ctrl+R)"_s, u"TXT_DIREITA"_s,
                            &TFrameRichText::RightAlignClick);
     ToolButton7 = AddSeparator(u"ToolButton7"_s);
-    BulletsButton = AddButton(u"BulletsButton"_s, u"Marcadores"_s, u"TXT_MARCADORES"_s,
+    BulletsButton = AddButton(u"BulletsButton"_s, u"Marcadores (Ctrl+Shift+L)"_s, u"TXT_MARCADORES"_s,
                               &TFrameRichText::BulletsButtonClick);
     ToolButton11 = AddSeparator(u"ToolButton11"_s);
 }
@@ -108,8 +108,8 @@ void TFrameRichText::CreateColors(TComponent* owner) {
     for (size_t i = 0; i < kColors.size(); ++i) ColorBox1->setItemIcon(int(i), Swatch(kColors[i].Color));
     ColorBox1->SetItemIndex(0);
     ColorBox1->SetAccessibleName(u"Cor do texto"_s);
-    ColorBox1->SetHint(u"Cor do texto"_s);
-    ColorBox1->SetTabStop(false);
+    ColorBox1->SetHint(u"Cor do texto (Ctrl+Shift+C)"_s);
+    ColorBox1->setFocusPolicy(Qt::NoFocus);  // leaving the text would store it and lose the selection
     ColorBox1->OnChange = [this](TComponent* sender) { ColorBox1Change(sender); };
 }
 
@@ -123,32 +123,54 @@ void TFrameRichText::CreateEditor(TComponent* owner) {
 }
 
 void TFrameRichText::EditorKeyDown(int& key, TShiftState shift) {
-    if (shift != ssCtrl) return;
-    TToolButton* button = key == 'B'   ? BoldButton
-                          : key == 'I' ? ItalicButton
-                          : key == 'U' ? UnderlineButton
-                                       : nullptr;
-    if (!button) return;
-    key = 0;
-    button->Click();
+    if (shift == (ssCtrl | ssShift) && key == 'C') {
+        key = 0;
+        ColorBox1->showPopup();
+    } else if (TToolButton* button = ButtonOfKey(key, shift)) {
+        key = 0;
+        button->Click();
+    }
+}
+
+TToolButton* TFrameRichText::ButtonOfKey(int key, TShiftState shift) const {
+    const struct {
+        TShiftState Shift;
+        int Key;
+        TToolButton* Button;
+    } keys[] = {{ssCtrl, 'B', BoldButton},
+                {ssCtrl, 'I', ItalicButton},
+                {ssCtrl, 'U', UnderlineButton},
+                {ssCtrl, 'L', LeftAlign},
+                {ssCtrl, 'E', CenterAlign},
+                {ssCtrl, 'R', RightAlign},
+                {ssCtrl | ssShift, 'L', BulletsButton}};
+    for (const auto& each : keys) {
+        if (each.Shift == shift && each.Key == key) return each.Button;
+    }
+    return nullptr;
+}
+
+// A button that could change nothing shows again what the text has.
+void TFrameRichText::Change(const std::function<void()>& change) {
+    if (FUpdating) return;
+    if (!Editor->isReadOnly()) change();
+    EditorSelectionChange(this);
 }
 
 void TFrameRichText::BoldButtonClick(TComponent*) {
-    if (!FUpdating) Editor->SetBold(BoldButton->Down());
+    Change([this] { Editor->SetBold(BoldButton->Down()); });
 }
 
 void TFrameRichText::ItalicButtonClick(TComponent*) {
-    if (!FUpdating) Editor->SetItalic(ItalicButton->Down());
+    Change([this] { Editor->SetItalic(ItalicButton->Down()); });
 }
 
 void TFrameRichText::UnderlineButtonClick(TComponent*) {
-    if (!FUpdating) Editor->SetUnderline(UnderlineButton->Down());
+    Change([this] { Editor->SetUnderline(UnderlineButton->Down()); });
 }
 
 void TFrameRichText::Align(TAlignment alignment) {
-    if (FUpdating) return;
-    Editor->SetParagraphAlignment(alignment);
-    EditorSelectionChange(this);
+    Change([&] { Editor->SetParagraphAlignment(alignment); });
 }
 
 void TFrameRichText::LeftAlignClick(TComponent*) {
@@ -164,13 +186,12 @@ void TFrameRichText::RightAlignClick(TComponent*) {
 }
 
 void TFrameRichText::BulletsButtonClick(TComponent*) {
-    if (!FUpdating) Editor->SetBullets(BulletsButton->Down());
+    Change([this] { Editor->SetBullets(BulletsButton->Down()); });
 }
 
 void TFrameRichText::ColorBox1Change(TComponent*) {
-    if (FUpdating || ColorBox1->ItemIndex() < 0) return;
-    Editor->SetTextColor(kColors[size_t(ColorBox1->ItemIndex())].Color);
-    if (Editor->CanFocus()) Editor->SetFocus();
+    const int chosen = ColorBox1->ItemIndex();
+    if (chosen >= 0) Change([&] { Editor->SetTextColor(kColors[size_t(chosen)].Color); });
 }
 
 void TFrameRichText::EditorSelectionChange(TComponent*) {
@@ -189,5 +210,5 @@ void TFrameRichText::EditorSelectionChange(TComponent*) {
 
 void TFrameRichText::UpdateCursorPos() {
     FCursorLine = Editor->CaretLine();
-    FCursorColumn = Editor->CaretColumn();
+    FCursorLineStart = Editor->CaretLineStart();
 }

@@ -6,7 +6,8 @@
 //     frame->Editor->SetDataSource(MainDS);
 //     frame->Editor->SetDataField(u"OBS"_s);
 //
-// Ctrl+B, Ctrl+I and Ctrl+U do what the first three buttons do.
+// Keys, in the text: Ctrl+B, I, U for bold, italic, underline; Ctrl+L, E, R for left, centre, right;
+// Ctrl+Shift+L for bullets, Ctrl+Shift+C for the colours. A read-only text keeps its looks.
 #pragma once
 
 #include <array>
@@ -37,9 +38,10 @@ class TFrameRichText : public TPanel {
     TToolButton* ToolButton11 = nullptr;
     TDBRichEdit* Editor = nullptr;
 
-    // Which line the caret is on, and where that line begins; kept by UpdateCursorPos.
+    // The line that holds the selection's start, and the position of its first letter; kept by
+    // UpdateCursorPos.
     int CursorLine() const { return FCursorLine; }
-    int CursorColumn() const { return FCursorColumn; }
+    int CursorLineStart() const { return FCursorLineStart; }
     void UpdateCursorPos();
 
     void BoldButtonClick(TComponent* Sender);
@@ -63,10 +65,12 @@ class TFrameRichText : public TPanel {
     void CreateBar(TComponent* owner);
     void CreateColors(TComponent* owner);
     void CreateEditor(TComponent* owner);
+    void Change(const std::function<void()>& change);
     void Align(TAlignment alignment);
+    TToolButton* ButtonOfKey(int key, TShiftState shift) const;
     void EditorKeyDown(int& key, TShiftState shift);
 
     bool FUpdating = false;  // the buttons are being set from the text
     int FCursorLine = 0;
-    int FCursorColumn = 0;
+    int FCursorLineStart = 0;
 };

@@ -34,7 +34,9 @@ void TRichEdit::SetRtf(const QByteArray& rtf) {
     {
         const QScopedValueRollback loading(FLoading, true);
         CallQt([&] {
+            setUndoRedoEnabled(false);  // undoing must not lead back to another record's text
             LoadRtf(*document(), rtf);
+            setUndoRedoEnabled(true);
             moveCursor(QTextCursor::Start);
         });
     }
@@ -53,23 +55,37 @@ void TRichEdit::SetSelection(int start, int length) {
     CallQt([&] { setTextCursor(cursor); });
 }
 
+QTextCursor TRichEdit::SelectionStart() const {
+    QTextCursor start = textCursor();
+    start.setPosition(start.selectionStart());
+    return start;
+}
+
 int TRichEdit::CaretLine() const {
     int line = 0;
-    const QTextCursor caret = textCursor();
-    for (QTextBlock block = document()->begin(); block != caret.block(); block = block.next())
+    const QTextCursor start = SelectionStart();
+    for (QTextBlock block = document()->begin(); block != start.block(); block = block.next())
         line += block.lineCount();
-    const QTextLine at = caret.block().layout()->lineForTextPosition(caret.positionInBlock());
+    const QTextLine at = start.block().layout()->lineForTextPosition(start.positionInBlock());
     return line + (at.isValid() ? at.lineNumber() : 0);
 }
 
-int TRichEdit::CaretColumn() const {
-    const QTextCursor caret = textCursor();
-    const QTextLine at = caret.block().layout()->lineForTextPosition(caret.positionInBlock());
-    return caret.positionInBlock() - (at.isValid() ? at.textStart() : 0);
+int TRichEdit::CaretLineStart() const {
+    const QTextCursor start = SelectionStart();
+    const QTextLine at = start.block().layout()->lineForTextPosition(start.positionInBlock());
+    return start.block().position() + (at.isValid() ? at.textStart() : 0);
+}
+
+// The format at a caret is that of the letter before it, which a selection made backwards does not contain.
+QTextCharFormat TRichEdit::Letters() const {
+    QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection()) return currentCharFormat();
+    cursor.setPosition(cursor.selectionEnd());
+    return cursor.charFormat();
 }
 
 QColor TRichEdit::TextColor() const {
-    const QTextCharFormat format = currentCharFormat();
+    const QTextCharFormat format = Letters();
     return format.hasProperty(QTextFormat::ForegroundBrush) ? format.foreground().color() : Cores::Texto;
 }
 
@@ -120,16 +136,27 @@ bool TRichEdit::Bullets() const {
 void TRichEdit::SetBullets(bool bullets) {
     if (bullets == Bullets()) return;
     CallQt([&] {
-        QTextCursor cursor = textCursor();
         if (bullets) {
-            cursor.createList(QTextListFormat::ListDisc);
-            return;
+            textCursor().createList(QTextListFormat::ListDisc);
+        } else {
+            RemoveBullets();
         }
-        QTextBlockFormat format = cursor.blockFormat();
+    });
+}
+
+// One paragraph at a time: each keeps its own alignment.
+void TRichEdit::RemoveBullets() {
+    QTextCursor all = textCursor();
+    const int last = all.selectionEnd();
+    all.beginEditBlock();
+    for (QTextBlock block = SelectionStart().block(); block.isValid() && block.position() <= last;
+         block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
         format.setObjectIndex(-1);
         format.setIndent(0);
-        cursor.setBlockFormat(format);
-    });
+        QTextCursor(block).setBlockFormat(format);
+    }
+    all.endEditBlock();
 }
 
 void TRichEdit::Change() {

@@ -13,7 +13,8 @@ class TRichEdit : public TWidget<QTextEdit> {
   public:
     explicit TRichEdit(TComponent* owner);
 
-    // The text as RTF (see RtfDocument.h); empty for an empty text. Setting it fires OnSelectionChange only.
+    // The text as RTF (see RtfDocument.h); empty for an empty text. Setting it fires OnSelectionChange only,
+    // and nothing typed before can be undone any more.
     QByteArray Rtf() const;
     void SetRtf(const QByteArray& rtf);
     // Plain text, lines ended by CR LF.
@@ -22,14 +23,15 @@ class TRichEdit : public TWidget<QTextEdit> {
     int SelStart() const { return textCursor().selectionStart(); }
     int SelLength() const { return textCursor().selectionEnd() - SelStart(); }
     void SetSelection(int start, int length);
-    // Zero-based line of the caret among the lines on screen, and the column in it.
+    // The line on screen that holds the selection's start, counted from 0, and the position of its first
+    // letter.
     int CaretLine() const;
-    int CaretColumn() const;
+    int CaretLineStart() const;
 
     // Letters: of the selection, or of what is typed next. Reading tells of the selection's end.
-    bool Bold() const { return currentCharFormat().fontWeight() >= QFont::Bold; }
-    bool Italic() const { return currentCharFormat().fontItalic(); }
-    bool Underline() const { return currentCharFormat().fontUnderline(); }
+    bool Bold() const { return Letters().fontWeight() >= QFont::Bold; }
+    bool Italic() const { return Letters().fontItalic(); }
+    bool Underline() const { return Letters().fontUnderline(); }
     QColor TextColor() const;
     void SetBold(bool bold);
     void SetItalic(bool italic);
@@ -56,7 +58,10 @@ class TRichEdit : public TWidget<QTextEdit> {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    QTextCharFormat Letters() const;
+    QTextCursor SelectionStart() const;
     void Merge(const QTextCharFormat& format);
+    void RemoveBullets();
 
     bool FWantReturns = true;
     bool FLoading = false;

@@ -103,8 +103,29 @@ TEST_F(RichText, ButtonsFollowTheCaretAndChangeNothing) {
     EXPECT_TRUE(Form->Frame->BoldButton->Down());
     EXPECT_TRUE(Form->Frame->CenterAlign->Down());
     EXPECT_EQ(Form->Frame->CursorLine(), 1);
-    EXPECT_EQ(Form->Frame->CursorColumn(), 2);
+    EXPECT_EQ(Form->Frame->CursorLineStart(), 2);
+    QTextCursor backwards = Edit->textCursor();
+    backwards.setPosition(5);
+    backwards.setPosition(2, QTextCursor::KeepAnchor);
+    Edit->setTextCursor(backwards);
+    EXPECT_TRUE(Form->Frame->BoldButton->Down());
+    Edit->SetSelection(1, 3);
+    EXPECT_EQ(Form->Frame->CursorLine(), 0);
+    Press('Z', ssCtrl);  // that the text was loaded cannot be undone
+    Edit->SetReadOnly(true);
+    Press('U', ssCtrl);
+    Press('R', ssCtrl);
+    EXPECT_FALSE(Form->Frame->UnderlineButton->Down() || Form->Frame->RightAlign->Down());
     EXPECT_EQ(Query->State(), dsBrowse);
+}
+
+TEST_F(RichText, ParagraphsLoseTheirBulletsAlone) {
+    Edit->selectAll();
+    Press('L', ssCtrl | ssShift);
+    EXPECT_TRUE(Edit->Rtf().contains("\\qc {\\pntext"));
+    Press('L', ssCtrl | ssShift);
+    EXPECT_FALSE(Edit->Rtf().contains("pntext"));
+    EXPECT_TRUE(Edit->Rtf().contains("\\pard a\\par\r\n\\pard\\qc {"));
 }
 
 TEST_F(RichText, TypedLooksReachTheFieldWhenTheEditIsLeft) {
