@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
+#include <QtEndian>
 
 #include "forms/base/IconGroup.h"
 
@@ -12,26 +13,38 @@ constexpr int kLeast = 16;
 constexpr int kMost = 256;
 constexpr qint64 kLargestFile = 256 << 20;
 
-// A picture that is large enough is better than one that is not; the nearer to `wanted`, the better.
-bool Better(const QImage& candidate, const QImage& best, int wanted) {
-    if (best.isNull()) return true;
-    const bool enough = candidate.width() >= wanted;
-    if (enough != (best.width() >= wanted)) return enough;
-    return enough ? candidate.width() < best.width() : candidate.width() > best.width();
+constexpr int kHeader = 6;
+constexpr int kEntry = 16;
+constexpr int kDepthInEntry = 6;
+
+struct TPicture {
+    QImage Image;
+    int Depth = 0;  // bits for each pixel
+};
+
+// A picture that is large enough is better than one that is not; the nearer to `wanted`, the better; of one
+// size, the one with more colours.
+bool Better(const TPicture& candidate, const TPicture& best, int wanted) {
+    if (best.Image.isNull()) return true;
+    const int width = candidate.Image.width(), bestWidth = best.Image.width();
+    if (width == bestWidth) return candidate.Depth > best.Depth;
+    const bool enough = width >= wanted;
+    if (enough != (bestWidth >= wanted)) return enough;
+    return enough == (width < bestWidth);
 }
 
-QImage BestPicture(const QByteArray& icon, int wanted) {
-    QByteArray bytes = icon;
-    QBuffer buffer(&bytes);
+QImage BestPicture(QByteArray icon, int wanted) {
+    QBuffer buffer(&icon);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, "ico");
-    QImage best;
+    TPicture best;
     for (int i = 0; i < reader.imageCount(); ++i) {
         if (!reader.jumpToImage(i)) break;
-        const QImage image = reader.read();
-        if (!image.isNull() && Better(image, best, wanted)) best = image;
+        const char* depth = icon.constData() + kHeader + i * kEntry + kDepthInEntry;
+        const TPicture picture{reader.read(), qFromLittleEndian<uint16_t>(depth)};
+        if (!picture.Image.isNull() && Better(picture, best, wanted)) best = picture;
     }
-    return best;
+    return best.Image;
 }
 
 }  // namespace

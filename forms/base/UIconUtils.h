@@ -9,5 +9,6 @@
 #include "platform/rtl/Types.h"
 
 // The file's first icon at `Size` × `Size` pixels (16 to 256): the picture of that size, else the next larger
-// one, else the largest, scaled. A null image when the file cannot be read or holds no icon.
+// one, else the largest, scaled; of several of one size, the one with the most colours. A null image when the
+// file cannot be read or holds no icon.
 QImage GetIconFromSize(const UnicodeString& FileName, int Size);

@@ -27,20 +27,24 @@ QByteArray Png(int size, const QColor& color) {
     return buffer.data();
 }
 
-const QByteArray kSmall = Png(16, Qt::red), kLarge = Png(32, Qt::blue);
+const struct {
+    uint32_t Size, Depth;
+    QByteArray Bytes;
+} kPictures[] = {{16, 4, Png(16, Qt::green)}, {16, 32, Png(16, Qt::red)}, {32, 32, Png(32, Qt::blue)}};
+const QByteArray kAll = kPictures[0].Bytes + kPictures[1].Bytes + kPictures[2].Bytes;
 
-// Header and entries of two pictures; `file`: with their places in the file, else with their numbers.
+// Header and entries of the pictures; `file`: with their places in the file, else with their numbers.
 QByteArray Directory(bool file) {
     QByteArray bytes;
     const int entry = file ? 16 : 14;
     Put(bytes, 2, 1, 2);
-    Put(bytes, 4, 2, 2);
-    int place = 6 + 2 * entry;
-    for (int i = 0; i < 2; ++i) {
-        const QByteArray& picture = i ? kLarge : kSmall;
-        Put(bytes, 6 + i * entry, i ? 32 : 16, 1);
-        Put(bytes, 7 + i * entry, i ? 32 : 16, 1);
-        Put(bytes, 12 + i * entry, 32, 2);
+    Put(bytes, 4, 3, 2);
+    int place = 6 + 3 * entry;
+    for (int i = 0; i < 3; ++i) {
+        const auto& [size, depth, picture] = kPictures[i];
+        Put(bytes, 6 + i * entry, size, 1);
+        Put(bytes, 7 + i * entry, size, 1);
+        Put(bytes, 12 + i * entry, depth, 2);
         Put(bytes, 14 + i * entry, uint32_t(picture.size()), 4);
         Put(bytes, 18 + i * entry, uint32_t(file ? place : i + 1), file ? 4 : 2);
         place += int(picture.size());
@@ -71,14 +75,18 @@ QByteArray Program() {
         }
     };
     constexpr uint32_t kSub = 0x80000000u;
-    directory(0x00, {{3, kSub | 0x20}, {14, kSub | 0x40}});
-    directory(0x20, {{1, kSub | 0x60}, {2, kSub | 0x80}});
-    directory(0x40, {{7, kSub | 0xA0}});
-    directory(0x60, {{1033, 0xC0}});
-    directory(0x80, {{1033, 0xD0}});
-    directory(0xA0, {{1033, 0xE0}});
-    int data = 0x100;
-    for (const auto& [entry, bytes] : {std::pair(0xC0, kSmall), {0xD0, kLarge}, {0xE0, Directory(false)}}) {
+    directory(0x00, {{3, kSub | 0x20}, {14, kSub | 0x50}});
+    directory(0x20, {{1, kSub | 0x70}, {2, kSub | 0x90}, {3, kSub | 0xB0}});
+    directory(0x50, {{7, kSub | 0xD0}});
+    directory(0x70, {{1033, 0xF0}});
+    directory(0x90, {{1033, 0x100}});
+    directory(0xB0, {{1033, 0x110}});
+    directory(0xD0, {{1033, 0x120}});
+    int data = 0x130;
+    for (const auto& [entry, bytes] : {std::pair(0xF0, kPictures[0].Bytes),
+                                       {0x100, kPictures[1].Bytes},
+                                       {0x110, kPictures[2].Bytes},
+                                       {0x120, Directory(false)}}) {
         Put(exe, base + entry, uint32_t(0x1000 + data), 4);
         Put(exe, base + entry + 4, uint32_t(bytes.size()), 4);
         for (const char byte : bytes) Put(exe, base + data++, uint8_t(byte), 1);
@@ -90,8 +98,7 @@ QByteArray Program() {
 TEST(Icons, ComeInTheSizeAskedForOutOfFilesAndPrograms) {
     QTemporaryDir folder;
     const QByteArray program = Program();
-    for (const auto& [name, bytes] :
-         {std::pair(u"a.ico"_s, Directory(true) + kSmall + kLarge), {u"a.exe"_s, program}}) {
+    for (const auto& [name, bytes] : {std::pair(u"a.ico"_s, Directory(true) + kAll), {u"a.exe"_s, program}}) {
         SCOPED_TRACE(name.toStdString());
         QFile file(folder.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
