@@ -11,11 +11,24 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr const char16_t* kColumnProps[] = {u"GRDF_", u"GRDS_", u"GRDV_", u"GRDA_"};
-// More than a grid ever has; a damaged state file may claim any count.
+// More than a grid ever has; a damaged state file may claim anything.
 constexpr int kMostColumns = 1000;
+constexpr int kMostWidth = 16384;
+constexpr int kMostFontSize = 72;
 
 UnicodeString PropName(const char16_t* prefix, int index) {
     return QString::fromUtf16(prefix) + u"%1"_s.arg(index, 2, 10, QLatin1Char('0'));
+}
+
+int SaneProp(const TFrmGrid_Master& form, const UnicodeString& name, int fallback, int most) {
+    const int stored = form.GetIntWindowProp(name, fallback);
+    return stored > 0 && stored <= most ? stored : fallback;
+}
+
+TAlignment StoredAlignment(const TFrmGrid_Master& form, int index) {
+    const TAlignment present = form.DBGrd->Columns()[index]->Alignment();
+    const int stored = form.GetIntWindowProp(PropName(u"GRDA_", index), present);
+    return stored >= taLeftJustify && stored <= taCenter ? static_cast<TAlignment>(stored) : present;
 }
 
 void SaveColumn(TFrmGrid_Master& form, int index) {
@@ -65,7 +78,8 @@ UnicodeString PickListOf(const TPickLists& lists, const UnicodeString& fieldName
 // What is stored of a column, read in full before any column changes: the defaults are the present column's.
 struct TStoredColumn {
     UnicodeString FieldName, Title;
-    int Width, Alignment;
+    int Width;
+    TAlignment Alignment;
     bool Visible;
 };
 
@@ -73,8 +87,7 @@ TStoredColumn ReadColumn(TFrmGrid_Master& form, int index) {
     const TColumn* column = form.DBGrd->Columns()[index];
     return {StoredField(form, index),
             form.GetStrWindowProp(PropName(u"GRDL_", index), form.GetColumnTitle(index)),
-            StoredColumnWidth(form, index),
-            form.GetIntWindowProp(PropName(u"GRDA_", index), column->Alignment()),
+            StoredColumnWidth(form, index), StoredAlignment(form, index),
             form.GetBoolWindowProp(PropName(u"GRDV_", index), column->Visible())};
 }
 
@@ -82,7 +95,7 @@ void ApplyColumn(TColumn* column, const TStoredColumn& stored, const UnicodeStri
     column->SetFieldName(stored.FieldName);
     column->Title().SetCaption(stored.Title);
     column->SetWidth(stored.Width);
-    column->SetAlignment(static_cast<TAlignment>(stored.Alignment));
+    column->SetAlignment(stored.Alignment);
     column->SetVisible(stored.Visible);
     column->PickList().SetText(pickList);
 }
@@ -106,7 +119,7 @@ void SaveGridConfig(TFrmGrid_Master& form) {
 
 bool LoadGridColumns(TFrmGrid_Master& form, TPickLists& pickLists) {
     const int count = form.GetIntWindowProp(u"GridCount"_s, 0);
-    form.DBGrd->SetFontSize(form.GetIntWindowProp(u"FontSize"_s, form.DBGrd->FontSize()));
+    form.DBGrd->SetFontSize(SaneProp(form, u"FontSize"_s, form.DBGrd->FontSize(), kMostFontSize));
     if (!FitsGrid(form, count)) {
         form.UpdateProps([&] { DeleteColumns(form, count); });
         return false;
@@ -128,5 +141,5 @@ int StoredOrderColumn(TFrmGrid_Master& form) {
 }
 
 int StoredColumnWidth(TFrmGrid_Master& form, int index) {
-    return form.GetIntWindowProp(PropName(u"GRDS_", index), form.DBGrd->Columns()[index]->Width());
+    return SaneProp(form, PropName(u"GRDS_", index), form.DBGrd->Columns()[index]->Width(), kMostWidth);
 }
