@@ -30,6 +30,11 @@ TEditAction EscapeAction(const TEditControl& active) {
     return TEditAction::Cancel;
 }
 
+TEditAction UpAction(const TEditControl& active) {
+    const bool stays = KeepsArrows(active) || active.Kind == TEditControl::Values;
+    return stays ? TEditAction::None : TEditAction::StrokeBack;
+}
+
 TEditAction DownAction(const TEditControl& active) {
     if (IsList(active) && !active.ListShowing) return TEditAction::DropDown;
     return KeepsArrows(active) ? TEditAction::None : TEditAction::StrokeEnter;
@@ -58,7 +63,7 @@ TEditAction KeyDownAction(int key, const TEditControl& active, bool hasConfirm, 
         case VK_F12: return hasConfirm ? TEditAction::Confirm : TEditAction::None;
         case VK_PRIOR: return hasPages ? TEditAction::PriorTab : TEditAction::None;
         case VK_NEXT: return hasPages ? TEditAction::NextTab : TEditAction::None;
-        case VK_UP: return KeepsArrows(active) ? TEditAction::None : TEditAction::StrokeBack;
+        case VK_UP: return UpAction(active);
         case VK_DOWN: return DownAction(active);
         default: return TEditAction::None;
     }
@@ -67,6 +72,7 @@ TEditAction KeyDownAction(int key, const TEditControl& active, bool hasConfirm, 
 TEditAction EnterAction(const TEditControl& active) {
     switch (active.Kind) {
         case TEditControl::Grid: return GridEnterAction(active);
+        case TEditControl::Values: return TEditAction::NextRow;
         case TEditControl::Lookup:
         case TEditControl::Combo: return active.ListShowing ? TEditAction::None : TEditAction::NextControl;
         case TEditControl::DBMemo:

@@ -19,7 +19,8 @@ struct TEditControl {
         DBMemo,    // a data-aware memo
         Memo,      // a memo without data
         RichEdit,  // a data-aware rich edit
-        Tree       // a tree view
+        Tree,      // a tree view
+        Values     // a list of named values
     };
     TKind Kind = Other;
     bool ListShowing = false;  // lookup and combo: the list is open
@@ -45,6 +46,7 @@ enum class TEditAction {
     StrokeBack,   // inject Shift+Tab: the previous control
     StrokeEnter,  // inject Enter: the next control, by way of KeyPressAction
     StrokeTab,    // inject Tab: the grid's next column
+    NextRow,      // the list's next row; the last one stays
     NextControl   // act on Tab as the form's own dialog key
 };
 

@@ -7,6 +7,7 @@
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/KeyHub.h"
 #include "platform/ui/RichEdit.h"
+#include "platform/ui/ValueList.h"
 #include "utils/funcoes/Teclas.h"
 
 namespace {
@@ -52,6 +53,10 @@ void ClearLookup(TDBLookupComboBox& lookup) {
     }
 }
 
+void NextRow(TValueListEditor& list) {
+    list.SetRow(list.Row() + 1);
+}
+
 void DropDown(TControl* control) {
     if (auto* lookup = dynamic_cast<TDBLookupComboBox*>(control)) {
         lookup->DropDown();
@@ -78,6 +83,8 @@ TEditControl DescribeControl(TControl* control) {
     } else if (auto* rich = dynamic_cast<TDBRichEdit*>(control)) {
         state.Kind = TEditControl::RichEdit;
         state.WantsEnter = rich->WantReturns();
+    } else if (dynamic_cast<TValueListEditor*>(control)) {
+        state.Kind = TEditControl::Values;
     } else if (control && qobject_cast<QTreeView*>(control->Widget())) {
         state.Kind = TEditControl::Tree;
     }
@@ -124,6 +131,7 @@ void TEditKeys::Execute(TEditAction action) {
         case TEditAction::StrokeBack: return InjectKey(VK_TAB, ssShift);
         case TEditAction::StrokeEnter: return InjectKey(VK_RETURN, 0);
         case TEditAction::StrokeTab: return InjectKey(VK_TAB, 0);
+        case TEditAction::NextRow: return NextRow(dynamic_cast<TValueListEditor&>(*FForm->ActiveControl()));
         case TEditAction::NextControl: return FForm->DoTabKey(true);
     }
 }

@@ -9,9 +9,10 @@ namespace {
 
 using A = QStringList;
 
-const A kKinds{"other", "grid", "lookup", "combo", "dbmemo", "memo", "richedit", "tree"};
-const A kActions{"None",    "PriorColumn", "NextColumn", "ClearLookup", "Cancel",    "Confirm",    "PriorTab",
-                 "NextTab", "DropDown",    "StrokeBack", "StrokeEnter", "StrokeTab", "NextControl"};
+const A kKinds{"other", "grid", "lookup", "combo", "dbmemo", "memo", "richedit", "tree", "values"};
+const A kActions{"None",        "PriorColumn", "NextColumn", "ClearLookup", "Cancel",
+                 "Confirm",     "PriorTab",    "NextTab",    "DropDown",    "StrokeBack",
+                 "StrokeEnter", "StrokeTab",   "NextRow",    "NextControl"};
 const std::map<QString, int> kKeys{{"left", VK_LEFT}, {"right", VK_RIGHT}, {"esc", VK_ESCAPE},
                                    {"up", VK_UP},     {"down", VK_DOWN},   {"prior", VK_PRIOR},
                                    {"next", VK_NEXT}, {"f12", VK_F12}};

@@ -5,6 +5,7 @@
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/DBLookup.h"
 #include "platform/ui/RichEdit.h"
+#include "platform/ui/ValueList.h"
 #include "tests/forms/masters/Bancada.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -96,6 +97,12 @@ TControl* Teclas::MakeKind(const QString& kind, TForm* form, TControl* parent, T
     if (kind == u"memo") return wanting(Put<TMemo>(form, parent, "X", 90));
     if (kind == u"dbmemo") return wanting(bound(Put<TDBMemo>(form, parent, "X", 90)));
     if (kind == u"rich") return wanting(Put<TDBRichEdit>(form, parent, "X", 90));
+    if (kind == u"values") {
+        auto* values = NewControl<TValueListEditor>(form, parent, u"X"_s, QRect(16, 90, 300, 90));
+        values->Strings()->SetText(u"Um=1\nDois=2\nTres=3"_s);
+        values->SetRow(states.contains(u"last"_s) ? 2 : 1);
+        return values;
+    }
     if (kind == u"grid") {
         auto* grid = NewControl<TOrlaDBGrid>(form, parent, u"X"_s, QRect(16, 90, 400, 90));
         grid->SetDataSource(Source(Rows(form)));
@@ -121,6 +128,7 @@ void Teclas::Bring(TControl* control, const QStringList& states, TDataSource* so
         if (states.contains(u"editor"_s)) grid->SetEditorMode(true);
     }
     if (states.contains(u"open"_s)) Press(VK_DOWN);
+    if (states.contains(u"typed"_s)) TypeText(u"dois"_s);
     Settle();
 }
 
@@ -140,6 +148,8 @@ QString Teclas::Effect(TForm* form, TControl* control, const QString& pressed, c
         effect << u"column %1"_s.arg(grid->SelectedIndex());
         if (grid->DataSet()->State() != dsBrowse) effect << u"editing"_s;
     }
+    if (const auto* values = dynamic_cast<TValueListEditor*>(control))
+        effect << u"row %1"_s.arg(values->Row()) << values->Strings()->Values(u"Dois"_s);
     if (textBefore != control->Widget()->property("plainText").toString()) effect << u"line"_s;
     return effect.join(u' ');
 }
