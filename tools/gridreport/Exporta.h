@@ -4,11 +4,13 @@
 //     ExportarPdf(pages, "clientes.pdf", progress);
 #pragma once
 
+#include <optional>
+
 #include "tools/gridreport/Pagina.h"
 
 // All raise EInOutError with the cause, and EAbort when `andamento` answers false.
 void ExportarPdf(const TRelatorio& relatorio, const TPaginas& paginas, const UnicodeString& arquivo,
-                 const TAndamento& andamento = {});
+                 const TAndamento& andamento = {}, const std::optional<TFaixa>& faixa = {});
 
 // UTF-8 with a mark, semicolons, a title line, CR LF; decimals with a comma and without points between
 // thousands, dates dd/mm/yyyy, so that spreadsheets in Portuguese read numbers and dates as such. A cell with

@@ -2,7 +2,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPageLayout>
-#include <QPainter>
 #include <QPdfWriter>
 
 #include "platform/rtl/Exceptions.h"
@@ -14,23 +13,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kPontosPorPolegada = 72;
-constexpr int kResolucao = 720;
+constexpr int kResolucao = 720;  // a tenth of a point
 
-void Desenhar(QPdfWriter& writer, const TPaginas& paginas, const TAndamento& andamento) {
-    QPainter painter(&writer);
-    painter.scale(double(kResolucao) / kPontosPorPolegada, double(kResolucao) / kPontosPorPolegada);
-    for (int page = 0; page < paginas.Quantas(); ++page) {
-        if (page > 0) writer.newPage();
-        paginas.Desenhar(painter, page);
-        if (andamento && !andamento(page + 1, paginas.Quantas())) Abort();
-    }
+void Conferir(const QFile& file, const UnicodeString& arquivo) {
+    if (file.error() != QFileDevice::NoError) RaiseFileError(arquivo, foWrite, errno ? errno : ENOSPC);
 }
 
 }  // namespace
 
 void ExportarPdf(const TRelatorio& relatorio, const TPaginas& paginas, const UnicodeString& arquivo,
-                 const TAndamento& andamento) {
+                 const TAndamento& andamento, const std::optional<TFaixa>& faixa) {
     TFileDraft rascunho(arquivo);
     QFile file(rascunho.Name());
     errno = 0;
@@ -40,10 +32,15 @@ void ExportarPdf(const TRelatorio& relatorio, const TPaginas& paginas, const Uni
     writer.setTitle(relatorio.Nome);
     writer.setPageLayout(
         QPageLayout(QPageSize(paginas.Papel(), QPageSize::Point), QPageLayout::Portrait, {}));
-    Desenhar(writer, paginas, andamento);
+    DesenharPaginas(writer, paginas, faixa.value_or(TFaixa{0, paginas.Quantas()}),
+                    [&](int64_t done, int64_t total) {
+                        Conferir(file, arquivo);
+                        errno = 0;
+                        return !andamento || andamento(done, total);
+                    });
     errno = 0;
-    const bool written = file.flush() && file.error() == QFileDevice::NoError;
-    if (!written) RaiseFileError(arquivo, foWrite, errno ? errno : ENOSPC);
+    file.flush();
+    Conferir(file, arquivo);
     file.close();
     rascunho.Commit();
 }

@@ -1,8 +1,10 @@
 #include <locale.h>
 #include <xlsxwriter.h>
+#include <algorithm>
 #include <cerrno>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FileDraft.h"
@@ -60,11 +62,12 @@ class TPasta {
         if (negrito) format_set_bold(format);
         return format;
     }
-    void Gravar() {
+    // Packs the file; as long a work as writing the rows.
+    void Fechar() {
         errno = 0;
         if (workbook_close(std::exchange(FBook, nullptr)) != LXW_NO_ERROR) Falhar();
-        FDraft.Commit();
     }
+    void Entregar() { FDraft.Commit(); }
 
   private:
     [[noreturn]] void Falhar() { RaiseFileError(FArquivo, foWrite, errno ? errno : ENOSPC); }
@@ -75,17 +78,73 @@ class TPasta {
     lxw_worksheet* FSheet = nullptr;
 };
 
-// The file's own codes are the English ones; a spreadsheet in Portuguese shows them its way.
+// A section of a mask on its way to a sheet's code.
+struct TSecao {
+    QString Codigo;
+    bool Milhares = false;
+
+    // A sheet wants the separator within the digits; a mask has it anywhere.
+    QString Completa() const {
+        static const QRegularExpression kInteiros(u"(?<!\\\\)[#0]+"_s);
+        const QRegularExpressionMatch digits = kInteiros.match(Codigo);
+        if (!Milhares || !digits.hasMatch()) return Codigo;
+        const QString zeros = digits.captured().remove(u'#');
+        return QString(Codigo).replace(digits.capturedStart(), digits.capturedLength(),
+                                       u"#,##"_s + (zeros.isEmpty() ? u"#"_s : zeros));
+    }
+};
+
+std::vector<TSecao> Secoes(const UnicodeString& mascara) {
+    std::vector<TSecao> sections(1);
+    QChar quote;
+    for (const QChar c : mascara) {
+        TSecao& section = sections.back();
+        if (quote.isNull() ? c == u'"' || c == u'\'' : c == quote) {
+            quote = quote.isNull() ? c : QChar();
+        } else if (!quote.isNull() || !QStringView(u"#0.,;").contains(c)) {
+            section.Codigo += u'\\' + QString(c);
+        } else if (c == u';') {
+            sections.emplace_back();
+        } else if (c == u',') {
+            section.Milhares = true;
+        } else {
+            section.Codigo += c;
+        }
+    }
+    return sections;
+}
+
+// The file's own codes are the English ones; a spreadsheet in Portuguese shows them its way. What stands for
+// itself in a mask is escaped, and a section that the mask leaves to its first one is written out.
+QByteArray CodigoDaMascara(const UnicodeString& mascara) {
+    QStringList codes;
+    for (const TSecao& section : Secoes(mascara)) {
+        const QString code = section.Completa();
+        const QString sign = codes.size() == 1 ? u"-"_s : QString();
+        codes << (code.isEmpty() && !codes.isEmpty() ? sign + codes[0] : code);
+    }
+    return codes.join(u';').toUtf8();
+}
+
+// Minutes are "n" with us; a format of anything but numbers and signs gives way to the usual one.
+QByteArray CodigoDaData(const UnicodeString& formato, const QByteArray& usual) {
+    const UnicodeString plain = formato.toLower();
+    const bool simple = std::all_of(plain.begin(), plain.end(),
+                                    [](QChar c) { return QStringView(u"dmyhns/:-. ").contains(c); });
+    return plain.isEmpty() || !simple ? usual : UnicodeString(plain).replace(u'n', u'm').toLatin1();
+}
+
 QByteArray Codigo(const TColunaRelatorio& coluna) {
     switch (coluna.Tipo) {
-        case ftDate: return "dd/mm/yyyy";
-        case ftTime: return "hh:mm:ss";
-        case ftTimeStamp: return "dd/mm/yyyy hh:mm:ss";
-        case ftFloat: return coluna.Formato.isEmpty() ? QByteArray("General") : coluna.Formato.toUtf8();
-        case ftBCD:
-            return (coluna.Formato.isEmpty() ? FormatoDeCasas(coluna.Casas) : coluna.Formato).toUtf8();
-        default: return {};
+        case ftDate: return CodigoDaData(coluna.Formato, "dd/mm/yyyy");
+        case ftTime: return CodigoDaData(coluna.Formato, "hh:mm:ss");
+        case ftTimeStamp: return CodigoDaData(coluna.Formato, "dd/mm/yyyy hh:mm:ss");
+        default: break;
     }
+    if (!coluna.Numero()) return {};
+    if (coluna.Formato.isEmpty() && coluna.Tipo == ftBCD)
+        return CodigoDaMascara(FormatoDeCasas(coluna.Casas));
+    return CodigoDaMascara(coluna.Formato);
 }
 
 // Whether a sheet's number holds the value; what it does not hold is written as text.
@@ -102,7 +161,8 @@ void Celula(lxw_worksheet* folha, lxw_row_t linha, lxw_col_t coluna, const Varia
         const double number = valor.Kind() == vkDateTime ? valor.ToDateTime().Value : valor.ToDouble();
         worksheet_write_number(folha, linha, coluna, number, formato);
     } else {
-        const UnicodeString text = valor.Kind() == vkText ? valor.ToText() : TextoDaCelula(sobre, valor);
+        UnicodeString text = valor.Kind() == vkText ? valor.ToText() : TextoDaCelula(sobre, valor);
+        text.replace(u"\r\n"_s, u"\n"_s);  // a sheet shows the other sign
         worksheet_write_string(folha, linha, coluna, text.left(kTextoMaximo).toUtf8().constData(), nullptr);
     }
 }
@@ -131,6 +191,8 @@ void ExportarXlsx(const TRelatorio& relatorio, const UnicodeString& arquivo, con
             for (size_t i = 0; i < valores.size(); ++i)
                 Celula(pasta.Folha(), row, lxw_col_t(i), valores[i], relatorio.Colunas[i], formats[i]);
         },
-        andamento);
-    pasta.Gravar();
+        [&](int64_t done, int64_t total) { return !andamento || andamento(done, 2 * total); });
+    pasta.Fechar();
+    if (andamento && !andamento(relatorio.Linhas, relatorio.Linhas)) Abort();
+    pasta.Entregar();
 }

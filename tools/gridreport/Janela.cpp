@@ -1,7 +1,6 @@
 #include "tools/gridreport/Janela.h"
 
 #include <QAction>
-#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QPainter>
@@ -199,21 +198,17 @@ void TJanela::IrPara(int pagina) {
     FContagem->setText(u"Página %1 de %2"_s.arg(FFolha->Pagina + 1).arg(FPaginas->Quantas()));
 }
 
-void TJanela::ImprimirEm(QPrinter& impressora, const TAndamento& andamento) {
-    const int first = std::max(1, impressora.fromPage()) - 1;
-    const int end = impressora.toPage() > 0 ? impressora.toPage() : FPaginas->Quantas();
-    QPainter painter;
-    if (!painter.begin(&impressora)) throw Exception(u"A impressora não respondeu."_s);
-    painter.scale(impressora.logicalDpiX() / 72.0, impressora.logicalDpiY() / 72.0);
-    for (int page = first; page < end; ++page) {
-        if (page > first) impressora.newPage();
-        FPaginas->Desenhar(painter, page);
-        if (andamento(page - first + 1, end - first)) continue;
-        impressora.abort();
-        painter.end();
-        if (!impressora.outputFileName().isEmpty()) QFile::remove(impressora.outputFileName());
-        Abort();
-    }
+void TJanela::ImprimirEm(QPrinter& impressora, const TPaginas& paginas, const TAndamento& andamento) {
+    const int last = impressora.toPage() > 0 ? impressora.toPage() : paginas.Quantas();
+    const TFaixa faixa{std::max(1, impressora.fromPage()) - 1, std::min(last, paginas.Quantas())};
+    const UnicodeString arquivo = impressora.outputFileName();
+    // The toolkit's printer is silent about a full disk.
+    if (!arquivo.isEmpty()) return ExportarPdf(FRelatorio, paginas, arquivo, andamento, faixa);
+    DesenharPaginas(impressora, paginas, faixa, [&](int64_t done, int64_t total) {
+        const bool on = andamento(done, total);
+        if (!on) impressora.abort();
+        return on;
+    });
 }
 
 void TJanela::Imprimir() {
@@ -223,7 +218,10 @@ void TJanela::Imprimir() {
     printer.setFullPage(true);
     printer.setDocName(FRelatorio.Nome);
     if (!OnPerguntarImpressora(printer, FPaginas->Quantas())) return;
-    ComBarra(this, u"Imprimindo…"_s, [&](const TAndamento& andamento) { ImprimirEm(printer, andamento); });
+    // The user may have chosen another paper than the preview's.
+    const TPaginas pages(FRelatorio, FTabela, printer.pageLayout().fullRectPoints().size(), Now());
+    ComBarra(this, u"Imprimindo…"_s,
+             [&](const TAndamento& andamento) { ImprimirEm(printer, pages, andamento); });
 }
 
 void TJanela::Salvar() {

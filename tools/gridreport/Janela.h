@@ -41,7 +41,7 @@ class TJanela : public QMainWindow {
                   const std::function<void()>& fazer);
     void Montar();
     void Virar();
-    void ImprimirEm(QPrinter& impressora, const TAndamento& andamento);
+    void ImprimirEm(QPrinter& impressora, const TPaginas& paginas, const TAndamento& andamento);
 
     TRelatorio& FRelatorio;
     const TTabela& FTabela;

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <numeric>
 #include <QFontMetricsF>
+#include <QPagedPaintDevice>
 #include <QPainter>
 
+#include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FormatSettings.h"
 #include "platform/rtl/NumberMask.h"
 
@@ -14,6 +16,7 @@ namespace {
 
 // In tenths of a point, in which a page is drawn: letters have whole sizes only.
 constexpr double kDecimo = 0.1;
+constexpr double kPontosPorPolegada = 72;
 constexpr double kMargem = 280;  // about a centimetre
 constexpr double kCabecalho = 300;
 constexpr double kRodape = 200;
@@ -36,13 +39,15 @@ QFont Letra(double altura, bool negrito = false) {
     return font;
 }
 
-// One line, shortened where it does not fit. Measured once: a hundred thousand rows have a million cells.
-void Escrever(QPainter& painter, const QRectF& onde, int lado, const QFont& font, const QString& texto) {
+// One line, in place of a text that does not fit `curto`, without that the text's beginning. Measured once: a
+// hundred thousand rows have a million cells.
+void Escrever(QPainter& painter, const QRectF& onde, int lado, const QFont& font, const QString& texto,
+              const QString& curto = {}) {
     const QFontMetricsF metrics(font);
     QString shown = texto;
     double width = metrics.horizontalAdvance(texto);
     if (width > onde.width()) {
-        shown = lado == Qt::AlignRight ? kNaoCabe : metrics.elidedText(texto, Qt::ElideRight, onde.width());
+        shown = curto.isEmpty() ? metrics.elidedText(texto, Qt::ElideRight, onde.width()) : curto;
         width = metrics.horizontalAdvance(shown);
     }
     const double left = lado == Qt::AlignRight ? onde.right() - width : onde.left();
@@ -53,6 +58,11 @@ void Escrever(QPainter& painter, const QRectF& onde, int lado, const QFont& font
 
 int LadoDe(const TColunaRelatorio& coluna) {
     return coluna.Numero() ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+void EscreverValor(QPainter& painter, const QRectF& onde, const TColunaRelatorio& coluna, const QFont& font,
+                   const QString& valor) {
+    Escrever(painter, onde, LadoDe(coluna), font, valor, coluna.Numero() ? kNaoCabe : QString());
 }
 
 }  // namespace
@@ -138,7 +148,7 @@ void TPaginas::Linha(QPainter& painter, int64_t linha, double topo) const {
     for (size_t i = 0; i < FRelatorio.Colunas.size(); ++i) {
         const QStringView text = FTabela.Celula(linha, int(i));
         if (!text.isEmpty())
-            Escrever(painter, Celula(int(i), topo), LadoDe(FRelatorio.Colunas[i]), font, text.toString());
+            EscreverValor(painter, Celula(int(i), topo), FRelatorio.Colunas[i], font, text.toString());
     }
 }
 
@@ -150,7 +160,7 @@ void TPaginas::Totais(QPainter& painter, double topo) const {
         Escrever(painter, Celula(0, topo), Qt::AlignLeft, Letra(FLetra, true), u"Total"_s);
     for (size_t i = 0; i < FRelatorio.Colunas.size(); ++i) {
         if (const auto total = FTabela.Total(int(i)))
-            Escrever(painter, Celula(int(i), topo), Qt::AlignRight, Letra(FLetra, true), *total);
+            EscreverValor(painter, Celula(int(i), topo), FRelatorio.Colunas[i], Letra(FLetra, true), *total);
     }
 }
 
@@ -165,4 +175,16 @@ void TPaginas::Rodape(QPainter& painter, int indice) const {
     Escrever(painter, band, Qt::AlignLeft, Letra(kLetraDoRodape), count);
     Escrever(painter, band, Qt::AlignRight, Letra(kLetraDoRodape),
              u"Página %1 de %2"_s.arg(indice + 1).arg(FQuantas));
+}
+
+void DesenharPaginas(QPagedPaintDevice& onde, const TPaginas& paginas, TFaixa faixa,
+                     const TAndamento& andamento) {
+    QPainter painter;
+    if (!painter.begin(&onde)) throw Exception(u"A impressora não respondeu."_s);
+    painter.scale(onde.logicalDpiX() / kPontosPorPolegada, onde.logicalDpiY() / kPontosPorPolegada);
+    for (int page = faixa.Primeira; page < faixa.Fim; ++page) {
+        if (page > faixa.Primeira) onde.newPage();
+        paginas.Desenhar(painter, page);
+        if (!andamento(page - faixa.Primeira + 1, faixa.Fim - faixa.Primeira)) Abort();
+    }
 }

@@ -14,6 +14,7 @@
 #include "platform/rtl/DateTime.h"
 #include "tools/gridreport/Tabela.h"
 
+class QPagedPaintDevice;
 class QPainter;
 
 class TPaginas {
@@ -47,3 +48,14 @@ class TPaginas {
     int64_t FLinhasPorPagina = 1;
     int FQuantas = 1;
 };
+
+// Pages from Primeira (0 is the first) up to, without, Fim.
+struct TFaixa {
+    int Primeira;
+    int Fim;
+};
+
+// Draws these pages one after another. Exception when the device refuses, EAbort when `andamento`, told of
+// pages, answers false.
+void DesenharPaginas(QPagedPaintDevice& onde, const TPaginas& paginas, TFaixa faixa,
+                     const TAndamento& andamento);

@@ -54,10 +54,10 @@ Visible=0
 [FIELD_06]
 FieldName=QT_EST
 DisplayLabel=Estoque
-DisplayFormat=#,##0
+DisplayFormat=,0' un';;-
 [FIELD_07]
 FieldName=QT_MED
-DisplayLabel=Média
+DisplayLabel=Média de vendas
 )"_s.toLatin1();
 
 class GridReport : public testing::Test {
@@ -111,21 +111,27 @@ TEST_F(GridReport, WritesTheThreeKindsOfFilesWithoutAScreen) {
               pdf + u'\n' + csv + u'\n' + xlsx + u'\n');
     const UnicodeString text = TextoDoPdf(pdf);
     EXPECT_TRUE(text.startsWith(u"Preços à vista "_s)) << qPrintable(text.left(300));
-    EXPECT_EQ(text.count(u"Código Descrição Preço Cadastro CPF Estoque Média"_s), 2);
+    EXPECT_EQ(text.count(u"Código Descrição Preço Cadastro CPF Estoque Média d"_s), 2)
+        << qPrintable(text.left(300));
+    EXPECT_FALSE(text.contains(u"###"_s))
+        << "a title that does not fit is shortened, only numbers are hidden";
     EXPECT_EQ(text.count(u"150 registros Página 2 de 2"_s), 1);
-    EXPECT_TRUE(text.contains(u"1 Pão; \"1\" 0,0001 01/01/2024 529.982.247-25 1.000 0,5"_s));
-    EXPECT_TRUE(text.contains(u"Total 1,1323 150.000 75,00"_s)) << qPrintable(text.right(300));
+    EXPECT_TRUE(text.contains(u"1 Pão; \"1\" 0,0001 01/01/2024 529.982.247-25 1.000 un 0,5"_s));
+    EXPECT_TRUE(text.contains(u"Total 1,1323 150.000 un 75,00"_s)) << qPrintable(text.right(300));
     EXPECT_FALSE(text.contains(u"segredo"_s));
     const QByteArray rows = ReadWholeFile(csv);
     EXPECT_TRUE(
         rows.startsWith("\xEF\xBB\xBF"
-                        "Código;Descrição;Preço;Cadastro;CPF;Estoque;Média\r\n"
+                        "Código;Descrição;Preço;Cadastro;CPF;Estoque;Média de vendas\r\n"
                         "1;\"Pão; \"\"1\"\"\";0,0001;01/01/2024;52998224725;1000;0,5\r\n"
                         "2;\"Pão; \"\"2\"\"\";;"))
         << rows.first(200).constData();
     const QByteArray sheet = Saida(u"unzip"_s, {u"-p"_s, xlsx, u"xl/worksheets/sheet1.xml"_s});
     for (const char* cell : {"<v>0.0001</v>", "<v>45292.5</v>", "<v>1000</v>", "<t>52998224725</t>"})
         EXPECT_TRUE(sheet.contains(cell)) << cell;
+    const QByteArray styles = Saida(u"unzip"_s, {u"-p"_s, xlsx, u"xl/styles.xml"_s});
+    for (const char* code : {R"("#,##0\ \u\n;-#,##0\ \u\n;\-")", R"("#,##0.0000")", R"("dd/mm/yyyy")"})
+        EXPECT_TRUE(styles.contains(code)) << code << styles.constData();
 }
 
 TEST_F(GridReport, SaysInOneSentenceWhatIsWrong) {
@@ -168,7 +174,7 @@ TEST_F(GridReport, NothingHalfWrittenStays) {
     for (const UnicodeString& ending : {u"pdf"_s, u"csv"_s, u"xlsx"_s}) {
         SCOPED_TRACE(ending.toStdString());
         const UnicodeString file = Em(u"r."_s + ending);
-        if (ending == u"pdf") {
+        if (ending != u"csv") {
             EXPECT_THROW(Exportar(report, pages, file, [](auto, auto) { return false; }), EAbort);
         }
         SetFileFailure([](auto&, TFileOperation operation) {
@@ -211,6 +217,13 @@ TEST_F(GridReport, PreviewTurnsPagesPrintsAndSaves) {
     const UnicodeString text = TextoDoPdf(printed);
     EXPECT_TRUE(text.contains(u"Página 2 de 5"_s)) << qPrintable(text);
     EXPECT_FALSE(text.contains(u"Página 1 de 5"_s));
+    const QByteArray paper = ReadWholeFile(printed);
+    SetFileFailure([](auto&, auto) { return std::optional(ENOSPC); });
+    ExpectBox(u"Não foi possível gravar o arquivo '%1': disco cheio."_s.arg(printed), u"Erro"_s,
+              MB_ICONERROR);
+    key(Qt::Key_P, Qt::ControlModifier);
+    SetFileFailure(nullptr);
+    EXPECT_EQ(ReadWholeFile(printed), paper);
     key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(ReadWholeFile(saved).count('\n'), kLinhas + 1);
     window.OnPerguntarArquivo = [](const UnicodeString&) { return u"/nada/s.csv"_s; };
