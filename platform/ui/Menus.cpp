@@ -1,5 +1,6 @@
 #include "platform/ui/Menus.h"
 
+#include <QActionGroup>
 #include <QKeyEvent>
 #include <QPainter>
 #include "platform/ui/Control.h"
@@ -113,9 +114,12 @@ void TMenuItem::SetChecked(bool checked) {
     }
 }
 
+// The toolkit draws an item as one of several only when it belongs to a group.
 void TMenuItem::SetRadioItem(bool radio) {
     FRadio = radio;
     FAction->setCheckable(FChecked || radio);
+    delete FAction->actionGroup();
+    if (radio) FAction->setActionGroup(new QActionGroup(FAction.get()));
 }
 
 QMenu* TMenuItem::SubMenu() {

@@ -112,6 +112,7 @@ TEST_F(MenusTest, RadioItemsCheckOneAndClicksLeaveChecksToTheProgram) {
     EXPECT_TRUE(Form->Landscape->Checked());
     EXPECT_FALSE(Form->Portrait->Checked());
     EXPECT_FALSE(Form->Portrait->Action()->isChecked());
+    EXPECT_TRUE(Form->Portrait->Action()->actionGroup()) << "drawn with a round mark";
     Form->Portrait->OnClick = nullptr;
     Form->Portrait->Action()->trigger();
     EXPECT_FALSE(Form->Portrait->Action()->isChecked());
