@@ -1,5 +1,6 @@
 #include "forms/masters/GridPrint.h"
 
+#include <optional>
 #include <QFile>
 #include <QFontMetrics>
 
@@ -18,11 +19,11 @@ constexpr int kMostLetters = 50;
 const UnicodeString kPrintArgument = u"-o528"_s;  // the module's number follows at once
 
 // Nothing for fields of other kinds.
-UnicodeString DisplayFormatOf(const TField* field) {
+std::optional<UnicodeString> DisplayFormatOf(const TField* field) {
     if (auto* number = dynamic_cast<const TNumericField*>(field)) return number->DisplayFormat();
     if (auto* date = dynamic_cast<const TDateTimeField*>(field)) return date->DisplayFormat();
     if (auto* stamp = dynamic_cast<const TSQLTimeStampField*>(field)) return stamp->DisplayFormat();
-    return {};
+    return std::nullopt;
 }
 
 void WriteColumn(TIniFile& file, TFrmGrid_Master& form, int index) {
@@ -31,8 +32,7 @@ void WriteColumn(TIniFile& file, TFrmGrid_Master& form, int index) {
     const UnicodeString section = u"FIELD_%1"_s.arg(index, 2, 10, QLatin1Char('0'));
     file.WriteString(section, u"FieldName"_s, column->FieldName());
     file.WriteString(section, u"DisplayLabel"_s, form.GetColumnTitle(index));
-    const UnicodeString format = DisplayFormatOf(field);
-    if (!format.isEmpty()) file.WriteString(section, u"DisplayFormat"_s, format);
+    if (const auto format = DisplayFormatOf(field)) file.WriteString(section, u"DisplayFormat"_s, *format);
     file.WriteInteger(section, u"DisplayWidth"_s,
                       WidthInLetters(QFontMetrics(form.DBGrd->Font()), column->Width()));
     if (field && !field->EditMask().isEmpty()) file.WriteString(section, u"EditMask"_s, field->EditMask());

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kSmallestFont = 6;
 constexpr int kLargestFont = 12;
-constexpr int kRowsInSight = 15;
 constexpr int kRestored = 1;  // modal result of the field dialog
 
 UnicodeString ResearchItems() {

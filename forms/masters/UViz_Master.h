@@ -55,7 +55,7 @@ class TFrmViz_Master : public TFrmGrid_Master {
     // Frees the first button of that exact name, if there is one.
     void DestroyButton(const UnicodeString& Name);
 
-    // Moves a button to the place of the one now at Position (0 .. ButtonCount - 1; others change nothing).
+    // Moves a button before the one now at Position (0 .. ButtonCount - 1; others change nothing).
     void SetButtonPosition(TToolButton* Button, int Position);
 
     // Index of a module icon in ImgLst; an icon is added once, whatever the case of its name.

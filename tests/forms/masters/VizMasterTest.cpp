@@ -27,6 +27,7 @@ TEST_F(VizMaster, OpensFormsAndKeepsItsLooks) {
               Vista->DBGrd->Columns().Move(a[0].toInt(), a[1].toInt());
               Vista->DBGrd->OnColumnMoved(a[0].toInt(), a[1].toInt());
           })},
+         {u"DoubleClick"_s, Does([&](const A&) { Vista->DBGrd->OnDblClick(Vista->DBGrd); })},
          {u"OrderBy"_s, Does([&](const A& a) { Vista->SetOrderFieldIndex(a[0].toInt()); })},
          {u"Choices"_s,
           [&](const A& a) {
@@ -103,6 +104,7 @@ TEST_F(VizMaster, PrintsThroughTheProgramBesideIt) {
     view->Paisagem1->Click();
     view->Query->FieldByName(u"NM_CLI"_s)->SetEditMask(u"!AAAA;0; "_s);
     view->DBGrd->Columns()[2]->SetVisible(false);
+    view->DBGrd->Columns()[3]->SetWidth(5000);
     view->Imprimir1->Click();
     ASSERT_TRUE(Until([&] { return QFile::exists(told); }));
     EXPECT_EQ(ReadWholeFile(told), "-o528" + QByteArray::number(Module.Number()) + "\n");
@@ -117,7 +119,10 @@ TEST_F(VizMaster, PrintsThroughTheProgramBesideIt) {
     EXPECT_EQ(ini.ReadString(u"FIELD_01", u"EditMask", {}), u"!AAAA;0; "_s);
     EXPECT_GT(ini.ReadInteger(u"FIELD_01", u"DisplayWidth", 0), 20);
     EXPECT_FALSE(ini.ValueExists(u"FIELD_00", u"EditMask"));
+    EXPECT_TRUE(ini.ValueExists(u"FIELD_00", u"DisplayFormat"));
+    EXPECT_FALSE(ini.ValueExists(u"FIELD_01", u"DisplayFormat"));
     EXPECT_FALSE(ini.ReadBool(u"FIELD_02", u"Visible", true));
+    EXPECT_EQ(ini.ReadInteger(u"FIELD_03", u"DisplayWidth", 0), 50);
     view->Query->Close();
     ExpectBox(u"Não existe nenhum registro a ser impresso."_s, u"Informação"_s, kAviso);
     Click(view->BtnImprimir);
