@@ -25,8 +25,8 @@ bool IsNumber(const TField& key) {
 UnicodeString DateText(const TField& key) {
     switch (key.DataType()) {
         case ftDate: return FormatDateTime(u"yyyy-MM-dd"_s, key.AsDateTime());
-        case ftTime: return FormatDateTime(u"hh:nn:ss"_s, key.AsDateTime());
-        case ftTimeStamp: return FormatDateTime(u"yyyy-MM-dd hh:nn:ss"_s, key.AsDateTime());
+        case ftTime: return FormatDateTime(u"hh:nn:ss.zzz"_s, key.AsDateTime());
+        case ftTimeStamp: return FormatDateTime(u"yyyy-MM-dd hh:nn:ss.zzz"_s, key.AsDateTime());
         default: return {};
     }
 }

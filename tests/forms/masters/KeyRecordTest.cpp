@@ -21,14 +21,17 @@ class KeyRecord : public Bancada {
 TEST_F(KeyRecord, WritesKeysAsTheServerReadsThem) {
     TFDQuery* query = Query(
         "SELECT 7 I, CAST(-1.50 AS NUMERIC(9,2)) N, CAST('O''Brien' AS VARCHAR(20)) S, DATE '2024-12-31' D, "
-        "TIME '13:05:09' T, TIMESTAMP '2024-12-31 13:05:09' TS FROM RDB$DATABASE");
+        "TIME '13:05:09' T, TIMESTAMP '2024-12-31 13:05:09.123' TS FROM RDB$DATABASE");
     query->Open();
     const struct {
         const char16_t* Field;
         const char16_t* Literal;
-    } cases[] = {{u"I", u"7"},          {u"N", u"-1.5"},
-                 {u"S", u"'O''Brien'"}, {u"D", u"'2024-12-31'"},
-                 {u"T", u"'13:05:09'"}, {u"TS", u"'2024-12-31 13:05:09'"}};
+    } cases[] = {{u"I", u"7"},
+                 {u"N", u"-1.5"},
+                 {u"S", u"'O''Brien'"},
+                 {u"D", u"'2024-12-31'"},
+                 {u"T", u"'13:05:09.000'"},
+                 {u"TS", u"'2024-12-31 13:05:09.123'"}};
     for (const auto& c : cases) {
         const QString name = QString::fromUtf16(c.Field);
         SCOPED_TRACE(name.toStdString());
