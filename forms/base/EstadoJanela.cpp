@@ -62,6 +62,7 @@ void TFrmBase::SaveWindowState() {
 void TFrmBase::LoadWindowState() {
     SetHeight(SaneSize(GetIntWindowProp(u"Height"_s, Height()), Height()));
     SetWidth(SaneSize(GetIntWindowProp(u"Width"_s, Width()), Width()));
+    if (!Embedded()) return;
     if (!FMainForm) Cascade();
     if (GetBoolWindowProp(u"Maximized"_s, false)) {
         RememberGeometry();
@@ -74,6 +75,15 @@ void TFrmBase::Cascade() {
     const int k = (Module->Interface()->GetCountActiveModules() - 2) % kCascadeForms;
     SetLeft(k * kCascadeStep);
     SetTop(k * (CaptionHeight() + 5));
+    FitIntoClientArea();
+}
+
+// A size that the user has had on his screen before is his; the one that the class was designed with is not.
+void TFrmBase::FitIntoClientArea() {
+    const TControl* area = MainClient();
+    if (BorderStyle() != bsSizeable || !area->Widget()->isVisible()) return;
+    if (GetIntWindowProp(u"Width"_s, 0) == 0) SetWidth(std::min(Width(), area->Width() - Left()));
+    if (GetIntWindowProp(u"Height"_s, 0) == 0) SetHeight(std::min(Height(), area->Height() - Top()));
 }
 
 int TFrmBase::GetIntWindowProp(const UnicodeString& PropName, int Default) const {

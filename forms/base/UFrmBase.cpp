@@ -19,11 +19,11 @@ constexpr int kMinHeight = 300;
 constexpr int kDesignWidth = 392;
 constexpr int kDesignHeight = 273;
 
-TControl* MainClient() {
+}  // namespace
+
+TControl* TFrmBase::MainClient() {
     return Application->MainForm() ? Application->MainForm()->ClientArea() : nullptr;
 }
-
-}  // namespace
 
 TFrmBase::TFrmBase(TComponent* AOwner, TModuleInstance* AModule, const TModuleInfo& AModuleInfo,
                    bool HideParent, bool LoadWindowConfig, const UnicodeString& ATagStr)
@@ -86,7 +86,13 @@ void TFrmBase::LinkToOpener() {
     } else {
         opener->SetEnabled(false);
         SetPosition(poOwnerFormCenter);
+        PlaceForm();
     }
+}
+
+// Comes again after the create event, which may have changed the size, or maximised the form in its place.
+void TFrmBase::PlaceForm() {
+    if (!FMaximized) TForm::PlaceForm();
 }
 
 // The opener comes back in every case; it follows a child that had taken its place.
@@ -116,7 +122,8 @@ void TFrmBase::GetIcon() {
 int TFrmBase::AddIcon(const UnicodeString& ResName, TIcoType ResType, bool Ex) {
     if (!ImgLst) ImgLst = new TImageList(this, 16, 16);
     const bool module = Ex || ResType == rtICO;
-    const UnicodeString folder = module ? Module->ModuleResources() : Module->Interface()->HostResources();
+    const TModuleInterface* host = Module->Interface();
+    const UnicodeString folder = module ? Module->ModuleResources() : host ? host->HostResources() : u""_s;
     if (ResType != rtBMP && ResType != rtICO && ResType != rtPNG) return ImgLst->Count() - 1;
     if (ResType == rtPNG) {
         const QSize size = ResourceSize(folder, ResName);

@@ -16,6 +16,9 @@
 // Two oddities are kept on purpose: a second maximise command restores the form only when its height is the
 // main client height less 99, although maximising sets it less 100; and with fewer than two active modules
 // the cascade offset is negative.
+//
+// A form without an opener stands at its place in the cascade. While no size of its class is remembered, it
+// takes no more than the room that the main window has there; a remembered size is kept as it is.
 #pragma once
 
 #include <memory>
@@ -72,7 +75,8 @@ class TFrmBase : public TForm {
     // Width taken by the caption buttons, in pixels.
     int GetButtonsSize() const;
 
-    // Window geometry in the state file ("Height", "Width", "Maximized").
+    // Window geometry in the state file ("Height", "Width", "Maximized"). Only a form inside the main window
+    // is cascaded and maximised.
     void SaveWindowState();
     void LoadWindowState();
 
@@ -121,10 +125,14 @@ class TFrmBase : public TForm {
     ~TFrmBase() override = default;
     void CreateControls() override;
     void Construct() override;
+    void PlaceForm() override;
     void DoDestroy() override;
     void BeforeDeath() override;
     void ShieldClick() override { Ativa(); }
     void WndProc(TMessage& Message) override;
+
+    // The area of the main form in which the forms live; null without a main form.
+    static TControl* MainClient();
 
     // The name of the form's section: the class name of the concrete form.
     UnicodeString SectionName() const;
@@ -138,6 +146,7 @@ class TFrmBase : public TForm {
     void LinkToOpener();
     void ReleaseOpener();
     void Cascade();
+    void FitIntoClientArea();
     void RememberGeometry();
     void RestoreGeometry();
     void Maximize();

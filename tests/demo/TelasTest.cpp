@@ -112,6 +112,7 @@ TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
 }
 
 TEST_F(Telas, SalesScreensAreUsableToo) {
+    Main->SetBounds(0, 0, 800, 600);
     const std::function<void()> openings[] = {[this] { Main->OpenPedidos(); },
                                               [this] { Main->OpenProdutos(); },
                                               [this] { Main->OpenVendedores(); }};
@@ -119,6 +120,8 @@ TEST_F(Telas, SalesScreensAreUsableToo) {
         open();
         auto* list = dynamic_cast<TFrmViz_Master*>(Main->OpenForms().back());
         ExpectUsable(list);
+        EXPECT_LE(list->Left() + list->Width(), Main->ClientArea()->Width());
+        EXPECT_LE(list->Top() + list->Height(), Main->ClientArea()->Height());
         Press(VK_INSERT);
         ASSERT_TRUE(list->ChildForm());
         ExpectUsable(list->ChildForm());

@@ -28,11 +28,18 @@ class TFrmTeste : public TFrmBase {
     }
 };
 
+class TFrmPrincipalTeste : public TFrmMain {
+  public:
+    using TFrmMain::TFrmMain;
+    int GetCountActiveModules() const override { return Alone ? 1 : TFrmMain::GetCountActiveModules(); }
+    bool Alone = false;
+};
+
 class FrmBase : public testing::Test {
   protected:
     void SetUp() override {
         SetProgramFolder(Folder.path());
-        Main = NewForm<TFrmMain>(Application, u"Teste"_s);
+        Main = NewForm<TFrmPrincipalTeste>(Application, u"Teste"_s);
         Module = std::make_unique<TModuleInstance>(Main, TModuleInfo{u"TESTE"_s, u"Teste"_s, {}});
         Main->SetBounds(0, 0, 1000, 760);
         Settle();
@@ -49,7 +56,7 @@ class FrmBase : public testing::Test {
     UnicodeString StateFile() const { return Folder.path() + u"/Temp/0ws.dat"_s; }
 
     QTemporaryDir Folder;
-    TFrmMain* Main = nullptr;
+    TFrmPrincipalTeste* Main = nullptr;
     std::unique_ptr<TModuleInstance> Module;  // knows its host, which is made for each test
 };
 
@@ -121,6 +128,26 @@ TEST_F(FrmBase, NewFormsAreCascadedByFive) {
         EXPECT_EQ(form->Left(), k * 20);
         EXPECT_EQ(form->Top(), k * step);
     }
+    Main->Alone = true;
+    EXPECT_EQ(Open()->Bounds().topLeft(), QPoint(-20, -step));
+}
+
+TEST_F(FrmBase, TakesItsPicturesFromItsModuleOrItsHost) {
+    for (const auto& [name, side] : {std::pair(u"ico16_teste"_s, 16), {u"x"_s, 24}, {u"y"_s, 32}}) {
+        QImage picture(side, side, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.save(Folder.filePath(name + u".png"_s));
+    }
+    const QImage generic = Open()->Icon().pixmap(16).toImage();
+    Module->SetModuleResources(Folder.path());
+    TFrmTeste* form = Open();
+    EXPECT_NE(form->Icon().pixmap(16).toImage(), generic);
+    EXPECT_EQ(form->AddIcon(u"ICO16_TESTE"_s, rtICO, false), 0);
+    EXPECT_EQ(form->AddIcon(u"X"_s, rtPNG, true), 0);  // another width: the list begins anew
+    EXPECT_EQ(form->AddIcon(u"Y"_s, rtBMP, true), 1);
+    EXPECT_EQ(form->AddIcon(u"ICO16_TFRMBASE"_s, rtBMP, false), 2);
+    EXPECT_EQ(form->AddIcon(u"Z"_s, TIcoType(3), true), 2);
+    EXPECT_THROW(form->AddIcon(u"Z"_s, rtBMP, true), EResNotFound);
 }
 
 TEST_F(FrmBase, MaximisesWithinTheClientAreaAndTogglesByItsOwnMeasure) {
@@ -180,6 +207,8 @@ TEST_F(FrmBase, RemembersItsGeometry) {
     EXPECT_TRUE(form->Maximized());
     EXPECT_EQ(form->GetIntWindowProp(u"Width"_s, 0), 620);
     EXPECT_EQ(form->GetIntWindowProp(u"Height"_s, 0), 480);
+    form->SetBounds(100, 80, 600, 500);
+    EXPECT_EQ(Open(form)->Left(), 0) << "maximised, no longer centred over its opener";
     form->SetFloatWindowProp(u"Zoom"_s, 1.5);
     form->SetStrWindowProp(u"Texto"_s, u"C:\\x;y"_s);
     TFrmTeste* other = Open();
