@@ -85,6 +85,8 @@ void TActiveForms::FocusMoved(QWidget* now) {
     TForm* form = now ? FormOf(now) : nullptr;
     if (!form || !form->Visible() || !form->Enabled()) return;
     TControl* control = ControlOf(now);
+    const bool list = now->window()->windowType() == Qt::Popup;
+    if (list && control && control->Widget()->focusPolicy() == Qt::NoFocus) return;
     SetActive(form);
     if (FActive == form) Enter(form, control == form ? nullptr : control);
 }

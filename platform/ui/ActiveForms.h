@@ -1,5 +1,6 @@
 // Which form and which control are active. Both follow the focus of the toolkit, but only between forms and
-// controls: popups, menus, message boxes and other programs change neither.
+// controls: popups, menus, message boxes and other programs change neither. A control's own list counts as
+// the control, unless that never takes the focus.
 #pragma once
 #include <QWidget>
 #include <vector>

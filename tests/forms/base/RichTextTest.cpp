@@ -1,6 +1,8 @@
 // Rich text: RTF in and out, the frame's buttons, and the field behind it.
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextDocument>
 
 #include "forms/base/UFrameRichText.h"
@@ -148,10 +150,14 @@ TEST_F(RichText, TypedLooksReachTheFieldWhenTheEditIsLeft) {
 
 TEST_F(RichText, ColourIsOfTheSelection) {
     Edit->SetSelection(0, 1);
-    Form->Frame->ColorBox1->SetItemIndex(2);
-    Form->Frame->ColorBox1Change(nullptr);
+    Press('U', ssCtrl);
+    Press('C', ssCtrl | ssShift);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+        QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_TRUE(Edit->Focused());
     Form->Other->SetFocus();
     EXPECT_TRUE(Stored().contains(u"\\red179\\green38\\blue30"_s));
+    EXPECT_TRUE(Stored().contains(u"{\\ul\\cf1 a}"_s)) << Stored().toStdString();
     Edit->SetSelection(0, 100);
     Edit->textCursor().removeSelectedText();
     Edit->SetFocus();
