@@ -55,7 +55,7 @@ std::vector<InputValue> InputsFor(const ScannedSql& sql, const std::vector<Varia
                                  .arg(values.size()));
     }
     std::vector<InputValue> inputs;
-    for (const int place : sql.Places) inputs.push_back({values[static_cast<size_t>(place)]});
+    for (const int place : sql.Places) inputs.emplace_back(values[static_cast<size_t>(place)]);
     return inputs;
 }
 

@@ -84,6 +84,10 @@ void TDataSet::Call(const TEvent& event) {
 
 // ---- controls ----
 
+fichario::DataEvents* TDataSet::Events() const {
+    return FDisabled > 0 || !Heard() ? nullptr : FEvents.get();
+}
+
 bool TDataSet::Heard() const {
     return !FEvents->Sources.Empty();
 }

@@ -151,13 +151,15 @@ class TDataSet : public TComponent {
     void SetRows(std::unique_ptr<fichario::RowStore> rows);
     fichario::RowStore& Rows() const { return *FRows; }
     int CurrentRow() const { return FRow; }
+    // Another number whenever the fields may tell something else of their columns.
+    int FieldsVersion() const { return FFieldsVersion; }
     // The field on a column of the rows.
     TField* FieldOfColumn(int column) const { return FFields[static_cast<size_t>(column)]; }
     // The value being edited, when it was set; the row's own otherwise; blobs with their content.
     Variant EditedValue(int column) const;
-    // Whether the record being edited has got a value for the column, and whether that differs from the one
-    // before.
-    bool IsAssigned(int column) const;
+    // The value that the record being edited has got for the column, null when none, and whether it differs
+    // from the one before.
+    const Variant* Assigned(int column) const;
     bool IsChanged(int column) const;
     // Reads an outdated row again first. EUnreadableText with the field's label.
     Variant RowValue(int row, int column) const;
@@ -207,13 +209,14 @@ class TDataSet : public TComponent {
     Variant BlobValue(int64_t id, int column) const;
     Variant ColumnValue(const TField* field) const;
     Variant OldColumnValue(const TField* field) const;
-    void StoreColumn(TField* field, Variant value);
+    void StoreColumn(TField* field, Variant&& value);
     void FieldsChanged();
     void AskFocus(TField* field);
 
     void SetState(TDataSetState state);
     void Call(const TEvent& event);
-    fichario::DataEvents* Events() const { return FDisabled > 0 ? nullptr : FEvents.get(); }
+    // Null when nobody is to hear of a change.
+    fichario::DataEvents* Events() const;
 
     TDataSetState FState = dsInactive;
     std::vector<TField*> FFields;
@@ -221,7 +224,8 @@ class TDataSet : public TComponent {
     std::unique_ptr<fichario::EditBuffer> FEdits;
     std::shared_ptr<fichario::DataEvents> FEvents;  // the data sources that hear of changes
     int FResult = 0;                                // counts the results that were taken over
-    int FRow = -1;                                  // current row, -1: none
+    int FFieldsVersion = 0;
+    int FRow = -1;        // current row, -1: none
     int FReadRow = -1;    // the row that fields read instead (TRowReading), -1: none
     int FRowBefore = -1;  // current row before the insert began
     int FDisabled = 0;

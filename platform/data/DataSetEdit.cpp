@@ -19,7 +19,7 @@ void TDataSet::CheckBrowseMode() {
 }
 
 void TDataSet::UpdateRecord() {
-    if (Editing()) FEvents->UpdateData();
+    if (Editing() && Heard()) FEvents->UpdateData();
 }
 
 bool TDataSet::Modified() const {

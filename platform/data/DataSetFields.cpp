@@ -44,12 +44,14 @@ void TDataSet::AddField(TField* field) {
 
 void TDataSet::RemoveField(TField* field) {
     std::erase(FFields, field);
+    ++FFieldsVersion;
     field->FDataSet = nullptr;
     const auto events = FEvents;
     events->FieldGone(field);
 }
 
 void TDataSet::FieldsChanged() {
+    ++FFieldsVersion;
     if (auto* events = Events()) events->ActiveChanged();
 }
 
@@ -105,6 +107,7 @@ void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDes
     }
     DropUnmatched(matched);
     FFields = matched;
+    ++FFieldsVersion;
     for (size_t i = 0; i < matched.size(); ++i) {
         matched[i]->FColumn = static_cast<int>(i);
         matched[i]->Describe(described[i]);
@@ -161,8 +164,8 @@ Variant TDataSet::EditedValue(int column) const {
     return edited ? *edited : RowValue(FRow, column);
 }
 
-bool TDataSet::IsAssigned(int column) const {
-    return FEdits->Find(column) != nullptr;
+const Variant* TDataSet::Assigned(int column) const {
+    return FEdits->Find(column);
 }
 
 bool TDataSet::IsChanged(int column) const {
@@ -177,7 +180,7 @@ bool TDataSet::IsChanged(int column) const {
 }
 
 // Moments are kept as exactly as the server keeps them, so that the same moment typed again is no change.
-void TDataSet::StoreColumn(TField* field, Variant value) {
+void TDataSet::StoreColumn(TField* field, Variant&& value) {
     if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
     FEdits->Set(field->FColumn, std::move(value));
     if (field->OnChange) field->OnChange(field);

@@ -26,7 +26,7 @@ class EditBuffer {
     // Null when the column has not been set.
     const Variant* Find(int column) const { return Find(FValues, column); }
     const Variant* Default(int column) const { return Find(FDefaults, column); }
-    void Set(int column, Variant value) {
+    void Set(int column, Variant&& value) {
         const auto index = static_cast<size_t>(column);
         if (index >= FValues.size()) FValues.resize(index + kAtOnce);
         FValues[index] = std::move(value);

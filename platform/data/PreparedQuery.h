@@ -25,8 +25,8 @@ class PreparedQuery {
     const ColumnList& Inputs() const { return FInputs; }
     bool HasCursor() const { return FHasCursor; }
 
-    // What records were inserted with, for those who write them.
-    InsertText LastInsert;
+    // What the last record was inserted with, for those who write them.
+    Insertion LastInsert;
 
     // The prepared statement, for one use. When the one from the beginning is in use it is prepared again,
     // and what this object knows of columns follows it.

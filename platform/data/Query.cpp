@@ -27,7 +27,7 @@ bool SeeksForeign(const Attachment& attachment, const UnicodeString& sql,
         return !FirstDoubtful(attachment.CharacterSet(), text).isEmpty();
     };
     return foreign(sql) || std::any_of(values.begin(), values.end(), [&](const InputValue& input) {
-               return input.Value.Kind() == vkText && foreign(input.Value.ToText());
+               return input.Value().Kind() == vkText && foreign(input.Value().Text());
            });
 }
 
@@ -55,6 +55,7 @@ PreparedQuery& TFDCustomQuery::RequirePrepared() {
         const bool wide = FPrepared && FPrepared->IsWide();
         FPrepared.reset();
         FPrepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
+        FColumnsVersion = -1;
         if (wide) FPrepared->Widen();
     }
     return *FPrepared;
@@ -82,7 +83,7 @@ void TFDCustomQuery::DoDescribe() {
 std::vector<InputValue> TFDCustomQuery::Inputs() const {
     std::vector<InputValue> values;
     for (const int place : FPrepared->Sql().Places)
-        values.push_back({FParams[place]->Value(), FParams[place]->DataType()});
+        values.emplace_back(FParams[place]->Value(), FParams[place]->DataType());
     return values;
 }
 

@@ -125,8 +125,11 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     std::vector<fichario::InputValue> Inputs() const;
     bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor,
                   int count);
-    std::vector<fichario::WriteColumn> TableColumns() const;
-    std::vector<fichario::WriteColumn> WriteColumns() const;
+    std::vector<fichario::WriteColumn>& TableColumns() const;
+    std::vector<fichario::WriteColumn> DescribeTable(const UnicodeString& table) const;
+    std::vector<fichario::WriteColumn>& WriteColumns() const;
+    void TakeNew(fichario::WriteColumn& column) const;
+    void TakeChanged(fichario::WriteColumn& column) const;
     void RequireNoPending() const;
     std::vector<Variant> ValuesOf(int row) const;
     void LogPost();
@@ -151,6 +154,10 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     TFDParams FParams;
     std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
+    // The columns of the table being written and what they were made for: kept from one record to the next.
+    mutable std::vector<fichario::WriteColumn> FTableColumns;
+    mutable UnicodeString FColumnsTable;
+    mutable int FColumnsVersion = -1;
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
     bool FRemember = false;                     // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;

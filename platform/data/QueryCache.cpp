@@ -99,7 +99,7 @@ void TFDCustomQuery::WritePending(int row) {
     for (WriteColumn& column : columns) {
         column.Value = Rows().ValueOrBytes(row, column.Column);
         if (!pending.New) column.OldValue = pending.Before[static_cast<size_t>(column.Column)];
-        column.Write = column.Write && column.Value != column.OldValue;
+        column.Write = column.CanWrite && column.Value != column.OldValue;
         some = some || column.Write;
     }
     RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
@@ -107,6 +107,7 @@ void TFDCustomQuery::WritePending(int row) {
     if (!pending.New) return writer.Update();
 
     const std::vector<Variant> key = writer.Insert();
+    if (key.empty()) return;
     std::vector<Variant> values = ValuesOf(row);
     size_t next = 0;
     for (const WriteColumn& column : columns) {

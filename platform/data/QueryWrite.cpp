@@ -3,6 +3,7 @@
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/Cursor.h"
+#include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/firebird/SqlRunner.h"
 #include "platform/data/PreparedQuery.h"
@@ -38,10 +39,20 @@ UnicodeString WithoutBlanks(UnicodeString text) {
 
 }  // namespace
 
-// The columns that belong to the table being written, without values.
-std::vector<WriteColumn> TFDCustomQuery::TableColumns() const {
+// The columns that belong to the table being written, with the values of whichever record was there last.
+std::vector<WriteColumn>& TFDCustomQuery::TableColumns() const {
     const UnicodeString table = UpdateTable();
     if (table.isEmpty()) throw EDatabaseError(u"The statement has no table that records can be written to"_s);
+    if (FColumnsVersion != FieldsVersion() || FColumnsTable != table) {
+        FTableColumns = DescribeTable(table);
+        FColumnsVersion = FieldsVersion();
+        FColumnsTable = table;
+    }
+    return FTableColumns;
+}
+
+std::vector<WriteColumn> TFDCustomQuery::DescribeTable(const UnicodeString& table) const {
+    const TableInfo& known = FPrepared->On()->Tables().Table(table);
     std::vector<WriteColumn> columns;
     columns.reserve(static_cast<size_t>(FieldCount()));
     for (int i = 0; i < FieldCount(); ++i) {
@@ -53,28 +64,35 @@ std::vector<WriteColumn> TFDCustomQuery::TableColumns() const {
         column.Name = info.BaseColumn;
         column.Label = field.DisplayLabel();
         column.Type = field.DataType();
-        column.Write = (field.ProviderFlags() & pfInUpdate) && !field.Description().ReadOnly;
+        if (const TableColumn* facts = known.Find(info.BaseColumn))
+            column.CharacterSet = static_cast<unsigned>(facts->CharacterSet);
+        column.CanWrite = (field.ProviderFlags() & pfInUpdate) && !field.Description().ReadOnly;
         column.Compare = (field.ProviderFlags() & pfInWhere) && info.Kind != WireKind::Blob;
         column.Key = field.ProviderFlags() & pfInKey;
     }
     return columns;
 }
 
-// The record being written, with its values. A new one has no old values.
-std::vector<WriteColumn> TFDCustomQuery::WriteColumns() const {
-    std::vector<WriteColumn> columns = TableColumns();
-    for (WriteColumn& column : columns) {
-        const bool blob = Rows().Layout().IsBlob(column.Column);
-        const bool set = State() == dsInsert ? IsAssigned(column.Column) : IsChanged(column.Column);
-        column.Write = column.Write && set;
-        if (!blob && State() != dsInsert) column.OldValue = RowValueOrBytes(CurrentRow(), column.Column);
-        if (set || State() == dsInsert) {
-            column.Value = set ? EditedValue(column.Column) : Variant::Null();
-        } else {
-            column.Value = column.OldValue;
-        }
-    }
+// The record being written, with its values, in the table's columns.
+std::vector<WriteColumn>& TFDCustomQuery::WriteColumns() const {
+    std::vector<WriteColumn>& columns = TableColumns();
+    for (WriteColumn& column : columns) State() == dsInsert ? TakeNew(column) : TakeChanged(column);
     return columns;
+}
+
+void TFDCustomQuery::TakeNew(WriteColumn& column) const {
+    const Variant* value = Assigned(column.Column);
+    column.Write = column.CanWrite && value;
+    column.OldValue = Variant();
+    column.Value = value ? *value : Variant::Null();
+}
+
+void TFDCustomQuery::TakeChanged(WriteColumn& column) const {
+    const bool blob = Rows().Layout().IsBlob(column.Column);
+    const bool changed = IsChanged(column.Column);
+    column.Write = column.CanWrite && changed;
+    column.OldValue = blob ? Variant() : RowValueOrBytes(CurrentRow(), column.Column);
+    column.Value = changed ? EditedValue(column.Column) : column.OldValue;
 }
 
 // After a lost connection the statement is prepared anew, and must still give the columns that the rows here
@@ -89,7 +107,7 @@ void TFDCustomQuery::RequireWriting() {
 void TFDCustomQuery::DoPost() {
     if (FLog) return LogPost();
     RequireWriting();
-    std::vector<WriteColumn> columns = WriteColumns();
+    std::vector<WriteColumn>& columns = WriteColumns();
     Write(columns);
     if (Heard() || !FPrepared->On()->Host()) return RenewRow(CurrentRow(), columns);
     TakeValues(CurrentRow(), columns, {});
@@ -106,7 +124,7 @@ void TFDCustomQuery::DoRenew(int row) const {
 void TFDCustomQuery::DoDelete() {
     if (FLog) return LogDelete();
     RequireWriting();
-    std::vector<WriteColumn> columns = WriteColumns();
+    std::vector<WriteColumn>& columns = WriteColumns();
     for (WriteColumn& column : columns) column.Write = false;
     RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
     try {
@@ -135,11 +153,11 @@ bool TFDCustomQuery::IsSoAnew(Check check) {
 void TFDCustomQuery::Write(std::vector<WriteColumn>& columns) {
     const bool stored = TakeStored(columns);
     const std::vector<WriteColumn> before = FRemember ? columns : std::vector<WriteColumn>();
-    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns, &FPrepared->LastInsert);
+    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
     std::vector<Variant> key;
     try {
         if (State() == dsInsert && !stored) {
-            key = writer.Insert();
+            key = writer.Insert(FPrepared->LastInsert);
             TakeKey(columns, key);
         } else {
             writer.Update();
@@ -220,7 +238,7 @@ bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns)
     for (const WriteColumn& column : columns) {
         if (!column.Key) continue;
         names.push_back(column.Name);
-        key.push_back({column.Value, column.Type});
+        key.emplace_back(column.Value, column.Type);
     }
     if (names.empty() || !shape.IsPlain() || UpdateTable() != shape.MainTable()) return false;
     std::vector<InputValue> values = Inputs();
@@ -239,7 +257,7 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) co
         names.push_back(QuoteIdentifier(column.Name));
         if (!column.Key) continue;
         conditions.push_back(names.back() + u" = ?"_s);
-        key.push_back({column.Value, column.Type});
+        key.emplace_back(column.Value, column.Type);
     }
     if (conditions.empty()) return {};
     const UnicodeString sql = u"SELECT "_s + Joined(names, u", "_s) + u" FROM "_s +
@@ -250,18 +268,20 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) co
 // The row takes what its table holds now, or, when that cannot be asked for, what was written.
 void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns,
                                 const RowStore& written) const {
-    std::vector<Variant> values(static_cast<size_t>(FieldCount()), Variant::Null());
-    if (State() != dsInsert) {
-        for (int i = 0; i < FieldCount(); ++i) values[static_cast<size_t>(i)] = Rows().ValueOrBytes(row, i);
-    }
-    int next = 0;
+    static const Variant null = Variant::Null();
+    std::vector<Variant> read = State() == dsInsert ? std::vector<Variant>() : ValuesOf(row);
+    std::vector<const Variant*> values(static_cast<size_t>(FieldCount()), &null);
+    for (size_t i = 0; i < read.size(); ++i) values[i] = &read[i];
     for (const WriteColumn& column : columns) {
-        Variant& value = values[static_cast<size_t>(column.Column)];
         const bool blob = column.Type == ftMemo || column.Type == ftBlob;
-        if (written.Count() == 1) {
-            value = written.ValueOrBytes(0, next++);
-        } else if (!blob) {
-            value = column.Value;
+        if (!blob) values[static_cast<size_t>(column.Column)] = &column.Value;
+    }
+    std::vector<Variant> stored;
+    if (written.Count() == 1) {
+        stored.reserve(columns.size());
+        for (size_t i = 0; i < columns.size(); ++i) {
+            stored.push_back(written.ValueOrBytes(0, static_cast<int>(i)));
+            values[static_cast<size_t>(columns[i].Column)] = &stored.back();
         }
     }
     Rows().SetValues(row, values);

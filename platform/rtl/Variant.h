@@ -62,6 +62,8 @@ class Variant {
     // system code page. An array throws.
     UnicodeString ToText() const&;
     UnicodeString ToText() &&;
+    // The text itself, without a conversion. REQUIRES Kind() == vkText.
+    const UnicodeString& Text() const { return As<UnicodeString>(); }
 
     // Whole numbers; fractions are rounded to the nearest, ties to even. ToInt also throws beyond 32 bits.
     int ToInt() const;

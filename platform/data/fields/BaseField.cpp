@@ -44,6 +44,11 @@ void TField::SetDisplayLabel(const UnicodeString& label) {
     PropertyChanged();
 }
 
+void TField::SetProviderFlags(TProviderFlags flags) {
+    FProviderFlags = flags;
+    if (FDataSet) ++FDataSet->FFieldsVersion;
+}
+
 void TField::SetVisible(bool visible) {
     FVisible = visible;
     PropertyChanged();
@@ -122,8 +127,9 @@ void TField::CheckWritable() const {
     if (FReadOnly) throw EDatabaseError(u"Field '%1' cannot be modified"_s.arg(FFieldName));
 }
 
-void TField::Store(Variant value) {
+void TField::Store(Variant&& value) {
     CheckWritable();
+    if (!OnValidate && !FValidating) return FDataSet->StoreColumn(this, std::move(value));
     Variant* const outer = std::exchange(FValidating, &value);
     try {
         if (OnValidate) OnValidate(this);

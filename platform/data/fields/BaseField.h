@@ -64,7 +64,7 @@ class TField : public TComponent {
     UnicodeString DisplayLabel() const { return FDisplayLabel.value_or(FFieldName); }
     void SetDisplayLabel(const UnicodeString& label);
     TProviderFlags ProviderFlags() const { return FProviderFlags.value_or(FDescription.ProviderFlags); }
-    void SetProviderFlags(TProviderFlags flags) { FProviderFlags = flags; }
+    void SetProviderFlags(TProviderFlags flags);
     bool Required() const { return FRequired.value_or(FDescription.Required); }
     void SetRequired(bool required) { FRequired = required; }
     bool ReadOnly() const { return FReadOnly; }
@@ -165,7 +165,7 @@ class TField : public TComponent {
   private:
     friend class TDataSet;
     UnicodeString PlainDisplayText() const;
-    void Store(Variant value);
+    void Store(Variant&& value);
     void CheckWritable() const;
 
     TDataSet* FDataSet = nullptr;

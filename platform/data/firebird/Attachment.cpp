@@ -141,12 +141,12 @@ Attachment::~Attachment() {
     if (!ended) FHandle->release();
 }
 
-bool Attachment::End(CallKind kind, const ClientBody& body) noexcept {
+bool Attachment::End(CallKind kind, ClientBody body) noexcept {
     // The engine in this process always answers: a long rollback or flush is its work.
     return QuietClientCall(kind, body, {FHandle, FLocal ? 0 : kEndingSeconds, FLocal});
 }
 
-void Attachment::Call(CallKind kind, const ClientBody& body) {
+void Attachment::Call(CallKind kind, ClientBody body) {
     try {
         ClientCall(kind, FEncoding, body, {FHandle, FStatementTimeout, FLocal});
     } catch (const EFDError& error) {
@@ -180,11 +180,12 @@ void Attachment::EndHost(bool commit) {
 
 StatementLease Attachment::Prepare(const UnicodeString& sql) {
     const auto same = [&](const auto& statement) { return statement->Sql() == sql; };
-    const auto found = std::find_if(FIdle.begin(), FIdle.end(), same);
+    // The latest first: what is repeated is found at once.
+    const auto found = std::find_if(FIdle.rbegin(), FIdle.rend(), same);
     std::unique_ptr<Statement> statement;
-    if (found != FIdle.end()) {
+    if (found != FIdle.rend()) {
         statement = std::move(*found);
-        FIdle.erase(found);
+        FIdle.erase(std::next(found).base());
     } else {
         statement = std::make_unique<Statement>(*this, sql);
     }

@@ -51,10 +51,10 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     // False once a call found the connection lost.
     bool Usable() const { return FUsable; }
     // A client call with this connection's encoding; notices a lost connection.
-    void Call(CallKind kind, const ClientBody& body);
+    void Call(CallKind kind, ClientBody body);
     // The same for endings, which must not keep anybody waiting for a server that does not answer: true when
     // `body` ran without an error; nothing is thrown.
-    bool End(CallKind kind, const ClientBody& body) noexcept;
+    bool End(CallKind kind, ClientBody body) noexcept;
 
     // The transaction that reads happen in now: the host's, or the long read-only one.
     std::shared_ptr<Transaction> Reading();

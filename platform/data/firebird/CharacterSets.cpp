@@ -1,5 +1,6 @@
 #include "platform/data/firebird/CharacterSets.h"
 
+#include <algorithm>
 #include "platform/rtl/CodePage.h"
 
 namespace fichario {
@@ -47,6 +48,11 @@ bool Untouched(unsigned set) {
     return set == kNoSet || set == kOctetsSet;
 }
 
+// Characters that every set has.
+bool IsPlain(QStringView text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
 }  // namespace
 
 unsigned CharacterSetNumber(QStringView name) {
@@ -59,6 +65,7 @@ unsigned CharacterSetNumber(QStringView name) {
 UnicodeString FirstLost(unsigned connection, unsigned column, QStringView text) {
     if (connection == column || Untouched(column)) return {};
     if (Untouched(connection) && column != kAsciiSet) return {};
+    if (IsPlain(text)) return {};
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         const char32_t c = pair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();

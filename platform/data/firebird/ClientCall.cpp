@@ -65,7 +65,6 @@ class CallWatch {
         if (FLimit.Attachment) BreakOffWhenDue();
         return false;
     }
-    bool IsShort() const { return FLimit.Local && fichario::IsShort(FKind); }
     // What was cancelled may have ended by itself just before, and the next statement must not pay for it.
     void Forgive() {
         if (!FAsked) return;
@@ -109,12 +108,8 @@ class CallWatch {
     bool FTimedOut = false;
 };
 
-// Runs `body` and gives what it threw.
-std::exception_ptr Run(const ClientBody& body, Firebird::ThrowStatusWrapper& status, CallWatch& watch) {
-    if (g_running) Abort();
-    const auto free = qScopeGuard([] { g_running = false; });
-    g_running = true;
-    g_stop = false;
+// Runs `body` on the service thread and throws what it threw.
+void Wait(ClientBody body, Firebird::ThrowStatusWrapper& status, CallWatch& watch) {
     std::exception_ptr thrown;
     const std::function<void()> work = [&] {
         try {
@@ -123,14 +118,32 @@ std::exception_ptr Run(const ClientBody& body, Firebird::ThrowStatusWrapper& sta
             thrown = std::current_exception();
         }
     };
-    if (watch.IsShort()) {
-        work();
-        return thrown;
-    }
     Service().Start(work);
     UserInterface().WaitFor([&](int milliseconds) { return watch.DoneWithin(milliseconds); });
     watch.Forgive();
-    return thrown;
+    if (thrown) std::rethrow_exception(thrown);
+}
+
+// With the status of the one call that may be running.
+void RunShort(TextEncoding encoding, ClientBody body) {
+    static CallStatus status;
+    try {
+        body(status.Get());
+    } catch (const Firebird::FbException& error) {
+        throw ErrorOf(*error.getStatus(), encoding);
+    }
+}
+
+void RunWatched(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit) {
+    CallStatus status;
+    CallWatch watch(kind, limit);
+    try {
+        Wait(body, status.Get(), watch);
+    } catch (const Firebird::FbException& error) {
+        throw watch.Judged(ErrorOf(*error.getStatus(), encoding));
+    } catch (const Stopped&) {
+        throw watch.Judged(ErrorOfCodes({isc_cancelled}));
+    }
 }
 
 }  // namespace
@@ -147,22 +160,16 @@ void StopIfAsked() {
     if (g_stop.load(std::memory_order_relaxed)) throw Stopped();
 }
 
-void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body, const CallLimit& limit) {
+void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit) {
     if (Hook()) Hook()(kind);
-    CallStatus status;
-    CallWatch watch(kind, limit);
-    const std::exception_ptr thrown = Run(body, status.Get(), watch);
-    if (!thrown) return;
-    try {
-        std::rethrow_exception(thrown);
-    } catch (const Firebird::FbException& error) {
-        throw watch.Judged(ErrorOf(*error.getStatus(), encoding));
-    } catch (const Stopped&) {
-        throw watch.Judged(ErrorOfCodes({isc_cancelled}));
-    }
+    if (g_running) Abort();
+    const auto free = qScopeGuard([] { g_running = false; });
+    g_running = true;
+    g_stop = false;
+    limit.Local&& IsShort(kind) ? RunShort(encoding, body) : RunWatched(kind, encoding, body, limit);
 }
 
-bool QuietClientCall(CallKind kind, const ClientBody& body, const CallLimit& limit) noexcept {
+bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit) noexcept {
     try {
         ClientCall(kind, TextEncoding::Windows1252, body, limit);
         return true;

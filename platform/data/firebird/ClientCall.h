@@ -13,6 +13,7 @@
 #include <functional>
 #include "platform/data/Errors.h"
 #include "platform/data/firebird/TextEncoding.h"
+#include "platform/rtl/FunctionRef.h"
 
 namespace Firebird {
 class IAttachment;
@@ -24,7 +25,7 @@ namespace fichario {
 // Write: the statement of a single record, found by its key.
 enum class CallKind { Attach, Detach, Start, Prepare, Execute, Write, Fetch, Close, Commit, Rollback, Blob };
 
-using ClientBody = std::function<void(Firebird::ThrowStatusWrapper& status)>;
+using ClientBody = FunctionRef<void(Firebird::ThrowStatusWrapper& status)>;
 
 // What a call may be broken off by, besides its end.
 struct CallLimit {
@@ -38,14 +39,14 @@ struct CallLimit {
 // is that of the server's texts. Escape breaks off a statement, the limit also a commit; a server that does
 // not even answer to that loses the connection. A call out of such a wait, which only painting can make, is
 // refused by a silent abort. EFDError.
-void ClientCall(CallKind kind, TextEncoding encoding, const ClientBody& body, const CallLimit& limit = {});
+void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit = {});
 
 // For a body of many steps, before each: ends the call as a cancelled statement when it is to be broken off.
 // The client cancels only the one step that is running.
 void StopIfAsked();
 
 // The same for endings: true when `body` ran without an error; nothing is thrown.
-bool QuietClientCall(CallKind kind, const ClientBody& body, const CallLimit& limit = {}) noexcept;
+bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {}) noexcept;
 
 // A call is under way on the service thread, where rows may be growing: nobody may read rows until it ends.
 bool ClientCallRunning();

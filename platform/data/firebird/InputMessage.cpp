@@ -61,7 +61,7 @@ InputMessage::InputMessage(Attachment& attachment, const ColumnList& described,
 }
 
 InputMessage::~InputMessage() {
-    if (FFormat) FFormat->release();
+    if (FFormat && !FPlain) FFormat->release();
 }
 
 InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& described,
@@ -116,7 +116,10 @@ InputMessage::Part InputMessage::PartOf(size_t place, const ColumnInfo& describe
 }
 
 void InputMessage::Build(const Statement& statement, Transaction& transaction) {
-    if (FPlain) return TakeFormat(statement);
+    if (FPlain) {
+        FFormat = FBytes.empty() ? nullptr : statement.InputFormat();
+        return;
+    }
     for (Part& part : FParts) {
         if (part.Blob) part.Bytes = BytesOf(WriteBlob(FAttachment, transaction, part.Bytes));
     }
@@ -134,12 +137,6 @@ void InputMessage::Build(const Statement& statement, Transaction& transaction) {
         builder->release();
         Lay(status);
     });
-}
-
-void InputMessage::TakeFormat(const Statement& statement) {
-    if (FBytes.empty() || FFormat) return;
-    FFormat = statement.InputFormat();
-    FFormat->addRef();
 }
 
 void InputMessage::SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMetadataBuilder& builder) {

@@ -15,10 +15,16 @@ class IMetadataBuilder;
 
 namespace fichario {
 
-// A value and the kind it shall be sent as; ftUnknown: its own.
+// A value, which must outlive this, and the kind it shall be sent as; ftUnknown: its own.
 struct InputValue {
-    Variant Value;
-    TFieldType Type = ftUnknown;
+    InputValue(const Variant& value, TFieldType type = ftUnknown) : Type(type), FValue(&value) {}
+    InputValue(Variant&& value, TFieldType type = ftUnknown) = delete;
+    const Variant& Value() const { return *FValue; }
+
+    TFieldType Type;
+
+  private:
+    const Variant* FValue;
 };
 
 // A text that its place cannot hold.
@@ -42,7 +48,7 @@ class InputMessage {
     // Writes blobs in `transaction` and lays the message out. Statement and cursor call it before they
     // execute.
     void Build(const Statement& statement, Transaction& transaction);
-    // Null without parameters.
+    // Null without parameters; may be the statement's own.
     Firebird::IMessageMetadata* Format() const { return FFormat; }
     void* Bytes() { return FBytes.empty() ? nullptr : FBytes.data(); }
 
@@ -64,7 +70,6 @@ class InputMessage {
         static Part OfBlob(const QByteArray& bytes) { return {kBlobType, 0, bytes, false, true, false}; }
     };
 
-    void TakeFormat(const Statement& statement);
     Part PartOf(size_t place, const ColumnInfo& described, const InputValue& value);
     static Part DecimalPart(const Decimal& value);
     Part TextPart(size_t place, const ColumnInfo& described, const UnicodeString& text);
@@ -72,7 +77,7 @@ class InputMessage {
     void Lay(Firebird::ThrowStatusWrapper& status);
 
     Attachment& FAttachment;
-    bool FPlain = false;  // laid out as the statement describes it; there are no parts
+    bool FPlain = false;  // laid out in the statement's own format; there are no parts
     std::vector<Part> FParts;
     std::optional<fichario::Misfit> FMisfit;
     Firebird::IMessageMetadata* FFormat = nullptr;

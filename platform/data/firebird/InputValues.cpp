@@ -59,8 +59,8 @@ Variant Typed(TFieldType type, const Variant& value) {
 }  // namespace
 
 Variant MeantValue(const ColumnInfo& described, const InputValue& input) {
-    if (input.Value.IsNull() || input.Value.IsUnassigned()) return Variant::Null();
-    const Variant value = Typed(input.Type, input.Value);
+    if (input.Value().IsNull() || input.Value().IsUnassigned()) return Variant::Null();
+    const Variant value = Typed(input.Type, input.Value());
     if (value.Kind() == vkText && input.Type == ftUnknown) return TextAs(described.Kind, value.ToText());
     if (value.IsNumber() && described.Kind == WireKind::Boolean) return value.ToBool();
     return value;

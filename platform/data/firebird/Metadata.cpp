@@ -36,9 +36,10 @@ const TableColumn* TableInfo::Find(const UnicodeString& column) const {
 
 TableInfo Metadata::Read(const UnicodeString& name) {
     TableInfo table;
-    const RowStore keys = ReadRows(FAttachment, kKeySql, {{Variant(name)}});
+    const Variant wanted = name;
+    const RowStore keys = ReadRows(FAttachment, kKeySql, {{wanted}});
     for (int i = 0; i < keys.Count(); ++i) table.Key.push_back(keys.Value(i, 0).ToText());
-    const RowStore columns = ReadRows(FAttachment, kColumnSql, {{Variant(name)}});
+    const RowStore columns = ReadRows(FAttachment, kColumnSql, {{wanted}});
     for (int i = 0; i < columns.Count(); ++i) {
         const auto flag = [&](int column) { return columns.Value(i, column).ToInt() != 0; };
         table.Columns[columns.Value(i, 0).ToText()] = {flag(1), flag(2), flag(3), flag(4),

@@ -34,17 +34,17 @@ bool PutNumber(const ColumnInfo& described, const InputValue& input, uint8_t* at
     const TFieldType type = input.Type;
     if (described.Scale == 0) {
         const bool whole = type == ftUnknown || type == ftSmallint || type == ftInteger || type == ftLargeint;
-        return whole && input.Value.Kind() == vkInteger &&
-               PutWhole(described.Kind, input.Value.ToInt64(), at);
+        return whole && input.Value().Kind() == vkInteger &&
+               PutWhole(described.Kind, input.Value().ToInt64(), at);
     }
-    if ((type != ftUnknown && type != ftBCD) || input.Value.Kind() != vkDecimal) return false;
-    const Decimal value = input.Value.ToDecimal();
+    if ((type != ftUnknown && type != ftBCD) || input.Value().Kind() != vkDecimal) return false;
+    const Decimal value = input.Value().ToDecimal();
     return value.Scale == described.Scale && PutWhole(described.Kind, value.Unscaled, at);
 }
 
 bool PutMoment(const ColumnInfo& described, const InputValue& input, uint8_t* at) {
-    if (input.Value.Kind() != vkDateTime || input.Type != FieldTypeOf(described)) return false;
-    const TDateTime value = input.Value.ToDateTime();
+    if (input.Value().Kind() != vkDateTime || input.Type != FieldTypeOf(described)) return false;
+    const TDateTime value = input.Value().ToDateTime();
     switch (described.Kind) {
         case WireKind::Date: return Put(at, ToWire(DateOf(value)).Days);
         case WireKind::Time: return Put(at, ToWire(TimeOf(value)).Ticks);
@@ -56,9 +56,9 @@ bool PutMoment(const ColumnInfo& described, const InputValue& input, uint8_t* at
 // by pattern.
 bool PutText(const ColumnInfo& described, const InputValue& input, uint8_t* at) {
     const bool kind = input.Type == ftUnknown || input.Type == ftString || input.Type == ftFixedChar;
-    if (!kind || input.Value.Kind() != vkText || described.Encoding != TextEncoding::Windows1252)
+    if (!kind || input.Value().Kind() != vkText || described.Encoding != TextEncoding::Windows1252)
         return false;
-    const UnicodeString text = input.Value.ToText();
+    const UnicodeString& text = input.Value().Text();
     if (text.size() > described.Characters) return false;
     if (described.Kind == WireKind::Varying) {
         Put(at, static_cast<uint16_t>(text.size()));
@@ -96,7 +96,7 @@ bool LayPlain(const ColumnList& described, const std::vector<InputValue>& values
               std::vector<uint8_t>& message) {
     message.assign(LengthOf(described), 0);
     for (size_t i = 0; i < described.size(); ++i) {
-        const bool null = values[i].Value.IsNull() || values[i].Value.IsUnassigned();
+        const bool null = values[i].Value().IsNull() || values[i].Value().IsUnassigned();
         if (null) {
             Put(message.data() + described[i].NullOffset, int16_t{-1});
         } else if (!PutValue(described[i], values[i], message.data() + described[i].Offset)) {

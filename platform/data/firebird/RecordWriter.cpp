@@ -3,7 +3,6 @@
 #include <algorithm>
 #include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/ErrorCodes.h"
-#include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/Sql.h"
 
@@ -17,20 +16,15 @@ const UnicodeString kAnd = u" AND "_s;
 const UnicodeString kComma = u", "_s;
 constexpr char kNone = 0, kOurs = 1, kServers = 2;  // whose value a column of an insertion gets
 
-// Characters that every set has.
-bool IsPlain(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-}
-
 }  // namespace
 
-void RecordWriter::Work::Bind(const WriteColumn& column, const Variant& value) {
-    Values.push_back({value, column.Type});
+void WriteWork::Bind(const WriteColumn& column, const Variant& value) {
+    Values.emplace_back(value, column.Type);
     Places.push_back(&column);
 }
 
 // The key as it was, and the old values of what is being changed.
-void RecordWriter::AddConditions(Work& work) const {
+void RecordWriter::AddConditions(WriteWork& work) const {
     TStringArray conditions;
     for (const WriteColumn& column : FColumns) {
         if (!column.Key) continue;
@@ -49,10 +43,8 @@ void RecordWriter::AddConditions(Work& work) const {
 
 // The first character of a text that does not reach the column; empty when all do.
 UnicodeString RecordWriter::LostOf(const WriteColumn& column, const Variant& value) const {
-    if (value.Kind() != vkText || IsPlain(value.ToText())) return {};
-    const TableColumn* known = FAttachment.Tables().Table(FTable).Find(column.Name);
-    if (!known) return {};
-    return FirstLost(FAttachment.CharacterSet(), static_cast<unsigned>(known->CharacterSet), value.ToText());
+    if (value.Kind() != vkText) return {};
+    return FirstLost(FAttachment.CharacterSet(), column.CharacterSet, value.Text());
 }
 
 // An old text that cannot be read, or not be sent over this connection, can still be replaced.
@@ -65,9 +57,9 @@ bool RecordWriter::CanCompare(const WriteColumn& column) const {
 }
 
 // What the server would lose or refuse without a name on the way from the connection's set to a column's.
-void RecordWriter::CheckCharacters(const Work& work) const {
+void RecordWriter::CheckCharacters(const WriteWork& work) const {
     for (size_t i = 0; i < work.Values.size(); ++i) {
-        const UnicodeString lost = LostOf(*work.Places[i], work.Values[i].Value);
+        const UnicodeString lost = LostOf(*work.Places[i], work.Values[i].Value());
         if (!lost.isEmpty()) RefuseMisfit({i, lost, 0}, work.Places[i]->Label);
     }
 }
@@ -88,7 +80,7 @@ int64_t RecordWriter::NamingFields(Run run) const {
     }
 }
 
-int64_t RecordWriter::Execute(const Work& work, RowStore* returned) {
+int64_t RecordWriter::Execute(const WriteWork& work, RowStore* returned) {
     StatementLease statement = FAttachment.Prepare(work.Sql);
     InputMessage input(FAttachment, statement->Inputs(), work.Values);
     if (const auto& misfit = input.Misfit()) RefuseMisfit(*misfit, work.Places[misfit->Place]->Label);
@@ -116,7 +108,7 @@ void RecordWriter::Commit(WriteScope& write) {
 }
 
 void RecordWriter::Update() {
-    Work work;
+    WriteWork work;
     TStringArray assignments;
     for (const WriteColumn& column : FColumns) {
         if (!column.Write) continue;
@@ -130,7 +122,7 @@ void RecordWriter::Update() {
 }
 
 void RecordWriter::Delete() {
-    Work work;
+    WriteWork work;
     work.Sql = u"DELETE FROM "_s + QuoteIdentifier(FTable);
     AddConditions(work);
     Execute(work);
@@ -144,31 +136,29 @@ TStringArray RecordWriter::MissingKey() const {
     return names;
 }
 
-RecordWriter::Work RecordWriter::InsertWork() const {
-    Work work;
-    work.Values.reserve(FColumns.size());
-    work.Places.reserve(FColumns.size());
-    std::vector<char> named(FColumns.size());
+// Whether the insertion names the same columns as the one that `insertion` holds, which then has this one's
+// values; otherwise it has to be written anew.
+bool RecordWriter::TakeValues(Insertion& insertion) const {
+    insertion.Work.Values.clear();
+    insertion.Work.Places.clear();
+    bool same = insertion.Table == FTable && insertion.Named.size() == FColumns.size();
+    insertion.Named.resize(FColumns.size());
     for (size_t i = 0; i < FColumns.size(); ++i) {
         const WriteColumn& column = FColumns[i];
         const bool leftToServer = column.Key && column.Value.IsNull();
-        named[i] = leftToServer ? kServers : column.Write ? kOurs : kNone;
-        if (named[i] == kOurs) work.Bind(column, column.Value);
+        const char named = leftToServer ? kServers : column.Write ? kOurs : kNone;
+        same = same && insertion.Named[i] == named;
+        insertion.Named[i] = named;
+        if (named == kOurs) insertion.Work.Bind(column, column.Value);
     }
-    if (!FLast) {
-        work.Sql = InsertSql(named);
-    } else {
-        if (FLast->Named != named || FLast->Table != FTable) *FLast = {FTable, named, InsertSql(named)};
-        work.Sql = FLast->Sql;
-    }
-    return work;
+    return same;
 }
 
-UnicodeString RecordWriter::InsertSql(const std::vector<char>& named) const {
+UnicodeString RecordWriter::InsertSql() const {
     TStringArray names, marks;
-    for (size_t i = 0; i < named.size(); ++i) {
-        if (named[i] != kOurs) continue;
-        names.push_back(QuoteIdentifier(FColumns[i].Name));
+    for (const WriteColumn& column : FColumns) {
+        if (!column.Write || (column.Key && column.Value.IsNull())) continue;
+        names.push_back(QuoteIdentifier(column.Name));
         marks.push_back(u"?"_s);
     }
     UnicodeString sql = u"INSERT INTO "_s + QuoteIdentifier(FTable);
@@ -179,15 +169,23 @@ UnicodeString RecordWriter::InsertSql(const std::vector<char>& named) const {
 }
 
 std::vector<Variant> RecordWriter::Insert() {
-    const Work work = InsertWork();
+    Insertion once;
+    return Insert(once);
+}
+
+std::vector<Variant> RecordWriter::Insert(Insertion& last) {
+    if (!TakeValues(last)) {
+        last.Table = FTable;
+        last.Work.Sql = InsertSql();
+    }
     RowStore returned;
     try {
-        Execute(work, &returned);
+        Execute(last.Work, &returned);
     } catch (const EFDError&) {
         if (FInDoubt) FDoubtfulKey = KeyOf(returned);
         throw;
     }
-    return KeyOf(returned);
+    return returned.Count() == 0 ? std::vector<Variant>() : KeyOf(returned);
 }
 
 std::vector<Variant> RecordWriter::KeyOf(const RowStore& returned) const {

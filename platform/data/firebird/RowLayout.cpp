@@ -178,7 +178,7 @@ uint8_t* RowLayout::PutBytes(const Place& place, const QByteArray& bytes, uint8_
 uint8_t* RowLayout::PutValue(const Place& place, const Variant& value, uint8_t* out) {
     if (value.IsNull()) return PutText(place, out, 0, out);
     if (value.Kind() == vkBytes) return PutBytes(place, value.ToBytes(), out);
-    const UnicodeString text = value.ToText();
+    const UnicodeString& text = value.Text();
     const auto size = static_cast<uint32_t>(text.size());
     const bool fits = place.Encoding == TextEncoding::Windows1252 && size <= place.Length;
     if (fits && PutAnsiExact(text, reinterpret_cast<char*>(out) + place.Size))
@@ -186,17 +186,18 @@ uint8_t* RowLayout::PutValue(const Place& place, const Variant& value, uint8_t* 
     return PutBytes(place, EncodeText(place.Encoding, text).value_or(QByteArray()), out);
 }
 
-uint8_t* RowLayout::PackValues(const std::vector<Variant>& values, uint8_t* row) const {
-    PackNull(row);
+uint8_t* RowLayout::PackValues(std::span<const Variant* const> values, uint8_t* row) const {
+    std::memset(row, 0, FNullBytes);
     uint8_t* texts = row + FFixedEnd;
     for (size_t i = 0; i < FPlaces.size(); ++i) {
         const Place& place = FPlaces[i];
-        const bool null = values[i].IsNull();
-        if (!null) row[i >> 3] &= static_cast<uint8_t>(~(1u << (i & 7)));
+        const Variant& value = *values[i];
+        const bool null = value.IsNull();
+        row[i >> 3] |= static_cast<uint8_t>(null << (i & 7));
         if (place.IsText()) {
-            texts = PutValue(place, values[i], texts);
+            texts = PutValue(place, value, texts);
         } else if (!null) {
-            PutFixed(place.Kind, place.Scale, values[i], row + place.Packed);
+            PutFixed(place.Kind, place.Scale, value, row + place.Packed);
         }
     }
     return texts;

@@ -30,7 +30,7 @@ class RowLayout {
     uint8_t* PackNull(uint8_t* row) const;
     // Packs values as ValueOrBytes gives them, one for each column; a text that is too long or foreign is cut
     // or null.
-    uint8_t* PackValues(const std::vector<Variant>& values, uint8_t* row) const;
+    uint8_t* PackValues(std::span<const Variant* const> values, uint8_t* row) const;
     // The length of a packed row.
     size_t Bytes(const uint8_t* row) const;
 

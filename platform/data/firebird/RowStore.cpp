@@ -60,8 +60,15 @@ void RowStore::CopyRow(int row, const RowStore& from, int fromRow) {
     FDirectory.Set(row, Add([&](uint8_t* at) { return std::copy_n(source, bytes, at); }));
 }
 
-void RowStore::SetValues(int row, const std::vector<Variant>& values) {
+void RowStore::SetValues(int row, std::span<const Variant* const> values) {
     FDirectory.Set(row, Add([&](uint8_t* at) { return FLayout.PackValues(values, at); }));
+}
+
+void RowStore::SetValues(int row, const std::vector<Variant>& values) {
+    std::vector<const Variant*> places;
+    places.reserve(values.size());
+    for (const Variant& value : values) places.push_back(&value);
+    SetValues(row, places);
 }
 
 size_t RowStore::Bytes() const {

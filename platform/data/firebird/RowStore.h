@@ -37,6 +37,7 @@ class RowStore {
     bool IsOutdated(int row) const { return FSomeOutdated && FLayout.IsMarked(Row(row)); }
     // Row `row` becomes a copy of a row of another store with the same columns, or holds new values.
     void CopyRow(int row, const RowStore& from, int fromRow);
+    void SetValues(int row, std::span<const Variant* const> values);
     void SetValues(int row, const std::vector<Variant>& values);
     void Remove(int row) { FDirectory.Erase(row); }
 

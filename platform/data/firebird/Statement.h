@@ -1,7 +1,7 @@
 // A prepared statement with the description of what goes in and comes out.
 //
 //     StatementLease statement = attachment.Prepare(u"UPDATE T SET A = ? WHERE ID = ?"_s);
-//     InputMessage input(attachment, statement->Inputs(), {{Variant(1)}, {Variant(7)}});
+//     InputMessage input(attachment, statement->Inputs(), {{a}, {id}});
 //     int64_t changed = statement->Execute(*transaction, input);
 #pragma once
 #include <memory>
