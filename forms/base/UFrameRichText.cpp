@@ -109,7 +109,7 @@ void TFrameRichText::CreateColors(TComponent* owner) {
     ColorBox1->SetItemIndex(0);
     ColorBox1->SetAccessibleName(u"Cor do texto"_s);
     ColorBox1->SetHint(u"Cor do texto (Ctrl+Shift+C)"_s);
-    ColorBox1->setFocusPolicy(Qt::NoFocus);  // leaving the text would store it and lose the selection
+    ColorBox1->setFocusPolicy(Qt::NoFocus);  // leaving the text stores it and loses the selection
     ColorBox1->OnChange = [this](TComponent* sender) { ColorBox1Change(sender); };
 }
 
@@ -120,6 +120,8 @@ void TFrameRichText::CreateEditor(TComponent* owner) {
     Editor->SetAlign(alClient);
     Editor->OnSelectionChange = [this](TComponent* sender) { EditorSelectionChange(sender); };
     Editor->OnKeyDown = [this](TComponent*, int& key, TShiftState shift) { EditorKeyDown(key, shift); };
+    // A click on the bar stops here instead of giving the focus to the page below, as the toolkit would.
+    StandardToolBar->setFocusProxy(Editor);
 }
 
 void TFrameRichText::EditorKeyDown(int& key, TShiftState shift) {

@@ -12,6 +12,7 @@
 #include "platform/data/Query.h"
 #include "platform/rtl/Rtf.h"
 #include "platform/ui/Application.h"
+#include "platform/ui/ComCtrls.h"
 #include "platform/ui/Form.h"
 #include "platform/ui/RtfDocument.h"
 #include "tests/support/Screen.h"
@@ -61,9 +62,12 @@ class TFrmTexto : public TForm {
         TForm::CreateControls();
         SetBounds(0, 0, 640, 400);
         Source = new TDataSource(this);
+        auto* pages = NewControl<TPageControl>(this, this, u"Paginas"_s, QRect(8, 8, 600, 250));
+        auto* page = new TTabSheet(this);
+        page->SetPageControl(pages);
         Frame = new TFrameRichText(this);
-        Frame->SetParent(this);
-        Frame->SetBounds(8, 8, 600, 250);
+        Frame->SetParent(page);
+        Frame->SetAlign(alClient);
         Frame->Editor->SetDataSource(Source);
         Frame->Editor->SetDataField(u"OBS"_s);
         Other = NewControl<TEdit>(this, this, u"Edt"_s, QRect(8, 280, 100, kEditHeight));
