@@ -13,6 +13,7 @@
 #include "platform/data/DataSet.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
+#include "platform/ui/Menus.h"
 #include "tests/support/Screen.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,12 +37,31 @@ int ExpectNames(const TControl& parent) {
     return count;
 }
 
+void ExpectOnce(const QStringList& letters) {
+    EXPECT_EQ(QStringList(letters).removeDuplicates(), 0) << letters.join(u' ').toStdString();
+}
+
+void CollectMnemonic(const UnicodeString& caption, QStringList& letters) {
+    const qsizetype at = caption.indexOf(u'&');
+    if (at >= 0) letters << caption.mid(at + 1, 1).toUpper();
+}
+
 void CollectMnemonics(const TControl& parent, QStringList& letters) {
     for (const TControl* control : parent.Controls()) {
         if (!control->Visible()) continue;
-        const qsizetype at = control->Caption().indexOf(u'&');
-        if (at >= 0) letters << control->Caption().mid(at + 1, 1).toUpper();
+        CollectMnemonic(control->Caption(), letters);
         CollectMnemonics(*control, letters);
+    }
+}
+
+// Each menu below has its letters for itself.
+void CollectMnemonics(const TMenuItem& menu, QStringList& letters) {
+    for (int i = 0; i < menu.Count(); ++i) {
+        if (!menu.Items(i)->Visible()) continue;
+        CollectMnemonic(menu.Items(i)->Caption(), letters);
+        QStringList below;
+        CollectMnemonics(*menu.Items(i), below);
+        ExpectOnce(below);
     }
 }
 
@@ -50,8 +70,11 @@ void ExpectUsable(TForm* form) {
     EXPECT_GT(ExpectNames(*form), 1);
     QStringList letters;
     CollectMnemonics(*form, letters);
-    const QStringList all = letters;
-    EXPECT_EQ(letters.removeDuplicates(), 0) << all.join(u' ').toStdString();
+    for (int i = 0; i < form->ComponentCount(); ++i) {
+        if (const auto* menu = dynamic_cast<TMainMenu*>(form->Components(i)))
+            CollectMnemonics(*menu->Items(), letters);
+    }
+    ExpectOnce(letters);
 }
 
 class Telas : public testing::Test {
