@@ -128,7 +128,7 @@ TEST_F(CadMaster, DeletesByMarkingOrForReal) {
         Click(ViewForm->BtnExcluir);
         TFrmTesteCliente* form = Ficha(ViewForm);
         ASSERT_TRUE(form);
-        EXPECT_EQ(form->BtnConfirmar->Caption(), u"Excluir"_s);
+        EXPECT_EQ(form->Caption() + form->BtnConfirmar->Caption(), u"Clientes [Excluindo]Excluir"_s);
         EXPECT_FALSE(form->Nome->CanFocus());
         Ask(kExcluir, IDNO);
         Press(VK_F12);
