@@ -63,7 +63,6 @@ void TFrmCadProduto::CreateQuery() {
         "FROM PRODUTO"_s);
     LabelProduto(produto);
     produto->OnNewRecord = [](TDataSet* novo) {
-        novo->FieldByName(u"UNIDADE"_s)->SetAsString(u"UN"_s);
         novo->FieldByName(u"TF_DEL"_s)->SetAsString(u"N"_s);
     };
     MainDS->SetDataSet(produto);

@@ -111,6 +111,9 @@ TEST_F(Cadastro, AProductNeedsAPriceAndAUnit) {
     Fill(u"0"_s);
     Fill(u"2,5"_s);
     Fill(u"7,12345"_s);
+    Refused(u"Entre com um valor para o campo \"Unidade\" antes de prosseguir."_s);
+    EXPECT_EQ(Active(), u"DbUNIDADE");
+    TypeText(u"u"_s);
     Refused(u"Entre com um valor para o campo \"Preço de venda\" antes de prosseguir."_s);
     EXPECT_EQ(Active(), u"DbVL_VENDA");
     Fill(u"189,9"_s);
