@@ -87,6 +87,7 @@ void TFrmVizFields::Wire() {
     CheckListBox1->OnClick = [this](TComponent* sender) { CheckListBox1ClickCheck(sender); };
     CheckListBox1->OnClickCheck = [this](TComponent* sender) { CheckListBox1ClickCheck(sender); };
     CheckBox1->OnClick = [this](TComponent* sender) { CheckBox1Click(sender); };
+    EdtTitle->OnEnter = [this](TComponent*) { EdtTitle->SelectAll(); };
     EdtTitle->OnChange = [this](TComponent* sender) { EdtTitleChange(sender); };
     SEdtWidth->OnChange = [this](TComponent* sender) { SEdtWidthChange(sender); };
     Button1->OnClick = [this](TComponent* sender) { Button1Click(sender); };
