@@ -39,8 +39,7 @@ TFrmViz_Master::TFrmViz_Master(TComponent* Owner, TModuleInstance* Module, TClas
 void TFrmViz_Master::Construct() {
     TFrmGrid_Master::Construct();
     if (VisType() != vtList) return;
-    BtnBuscar->Free();
-    BtnBuscar = nullptr;
+    if (BtnBuscar) std::exchange(BtnBuscar, nullptr)->Free();
     Pesquisa1->SetVisible(false);
     TBMenu->SetMenu(nullptr);
     TBMenu->SetMenu(MainMenu1);
@@ -169,15 +168,15 @@ void TFrmViz_Master::DBGrdKeyPress(TComponent*, WideChar& Key) {
     Key = 0;
     FinishSearch();
     if (HasRecords()) {
-        if (BtnAlterar->Enabled()) BtnAlterar->Click();
-    } else if (BtnNovo->Enabled() && BtnNovo->Visible() && Module->GetRight(u"New"_s)) {
+        if (BtnAlterar && BtnAlterar->Enabled()) BtnAlterar->Click();
+    } else if (BtnNovo && BtnNovo->Enabled() && BtnNovo->Visible() && Module->GetRight(u"New"_s)) {
         BtnNovo->Click();
     }
 }
 
 void TFrmViz_Master::FormKeyDown(TComponent* Sender, int& Key, TShiftState Shift) {
     TFrmGrid_Master::FormKeyDown(Sender, Key, Shift);
-    if (Key != VK_INSERT || !BtnNovo->Visible()) return;
+    if (Key != VK_INSERT || !BtnNovo || !BtnNovo->Visible()) return;
     Key = 0;
     BtnNovo->Click();
 }
@@ -299,8 +298,12 @@ TToolButton* TFrmViz_Master::CreateButton(const UnicodeString& Name, const Unico
 
 void TFrmViz_Master::DestroyButton(const UnicodeString& Name) {
     for (int i = 0; i < TBButtons->ButtonCount(); ++i) {
-        if (TBButtons->Buttons(i)->Name() != Name) continue;
-        TBButtons->Buttons(i)->Free();
+        TToolButton* button = TBButtons->Buttons(i);
+        if (button->Name() != Name) continue;
+        for (TToolButton** own : {&BtnNovo, &BtnAlterar, &BtnExcluir, &BtnImprimir, &BtnBuscar}) {
+            if (*own == button) *own = nullptr;
+        }
+        button->Free();
         break;
     }
     FixToolBarSize();

@@ -95,11 +95,12 @@ class TFrmViz_Master : public TFrmGrid_Master {
     TPanel* PnMenu = nullptr;
     TToolBar* TBMenu = nullptr;
     TToolBar* TBButtons = nullptr;
+    // Null once destroyed, BtnBuscar in vtList mode too; keys that stand for a button then do nothing.
     TToolButton* BtnNovo = nullptr;
     TToolButton* BtnAlterar = nullptr;
     TToolButton* BtnExcluir = nullptr;
     TToolButton* BtnImprimir = nullptr;
-    TToolButton* BtnBuscar = nullptr;  // null in vtList mode
+    TToolButton* BtnBuscar = nullptr;
     TMainMenu* MainMenu1 = nullptr;
     TMenuItem* Retrato1 = nullptr;
     TMenuItem* Paisagem1 = nullptr;

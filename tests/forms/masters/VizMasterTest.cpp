@@ -89,6 +89,11 @@ TEST_F(VizMaster, TakesButtonsOfDescendants) {
     view->DestroyButton(u"BtnFicha"_s);
     EXPECT_EQ(names(), u"BtnNovo BtnAlterar BtnExcluir BtnImprimir"_s);
     EXPECT_EQ(view->TBButtons->Width(), width);
+    view->DestroyButton(u"BtnNovo"_s);
+    Press(VK_INSERT);
+    view->DestroyButton(u"BtnAlterar"_s);
+    Press(VK_RETURN);
+    EXPECT_FALSE(view->ChildForm());
 }
 
 TEST_F(VizMaster, PrintsThroughTheProgramBesideIt) {
