@@ -124,6 +124,7 @@ class TFrmCad_Master : public TFrmBase {
     void PrepareNumber(TNumericField& Field);
     void BeginEditing();
     void CommitActiveControl();
+    static bool Asks(const UnicodeString& Question);
     void ConfirmRecord();
     void PostRecord();
     void ConfirmDeletion();
