@@ -84,12 +84,14 @@ void TDataSet::Call(const TEvent& event) {
 
 // ---- controls ----
 
-fichario::DataEvents* TDataSet::Events() const {
-    return FDisabled > 0 || !Heard() ? nullptr : FEvents.get();
+void TDataSet::AddSource(TDataSource* source) {
+    FEvents->Sources.Add(source);
+    ++FHearing;
 }
 
-bool TDataSet::Heard() const {
-    return !FEvents->Sources.Empty();
+void TDataSet::RemoveSource(TDataSource* source) {
+    FEvents->Sources.Remove(source);
+    --FHearing;
 }
 
 void TDataSet::DisableControls() {

@@ -168,7 +168,7 @@ class TDataSet : public TComponent {
     // The record being edited as it may be stored already (EditBuffer.h).
     std::optional<std::vector<fichario::WriteColumn>>& Doubtful() const;
     // Whether there are controls that read a record as soon as it changes.
-    bool Heard() const;
+    bool Heard() const { return FHearing > 0; }
     void FetchAll();
     void CheckActive() const;
     // Closes while the kind can still act: the destructor of a kind calls it first.
@@ -216,13 +216,16 @@ class TDataSet : public TComponent {
     void SetState(TDataSetState state);
     void Call(const TEvent& event);
     // Null when nobody is to hear of a change.
-    fichario::DataEvents* Events() const;
+    fichario::DataEvents* Events() const { return FDisabled > 0 || !Heard() ? nullptr : FEvents.get(); }
+    void AddSource(TDataSource* source);
+    void RemoveSource(TDataSource* source);
 
     TDataSetState FState = dsInactive;
     std::vector<TField*> FFields;
     std::unique_ptr<fichario::RowStore> FRows;
     std::unique_ptr<fichario::EditBuffer> FEdits;
     std::shared_ptr<fichario::DataEvents> FEvents;  // the data sources that hear of changes
+    int FHearing = 0;                               // how many of them there are
     int FResult = 0;                                // counts the results that were taken over
     int FFieldsVersion = 0;
     int FRow = -1;        // current row, -1: none

@@ -7,7 +7,7 @@ TDataSource::TDataSource(TComponent* owner)
     : TComponent(owner), FLinks(std::make_shared<fichario::NotifyList<TDataLink>>()) {}
 
 TDataSource::~TDataSource() {
-    if (FDataSet) FDataSet->FEvents->Sources.Remove(this);
+    if (FDataSet) FDataSet->RemoveSource(this);
     FDataSet = nullptr;
     const auto links = FLinks;
     links->Each([&](TDataLink& link) {
@@ -19,11 +19,11 @@ TDataSource::~TDataSource() {
 
 void TDataSource::SetDataSet(TDataSet* dataSet) {
     if (dataSet == FDataSet) return;
-    if (FDataSet) FDataSet->FEvents->Sources.Remove(this);
+    if (FDataSet) FDataSet->RemoveSource(this);
     FDataSet = dataSet;
     if (FDataSet) {
         FDataSet->RenewRows();
-        FDataSet->FEvents->Sources.Add(this);
+        FDataSet->AddSource(this);
     }
     fichario::DataEvents::SourceChanged(*this);
 }

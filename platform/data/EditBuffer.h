@@ -28,15 +28,13 @@ class EditBuffer {
     const Variant* Default(int column) const { return Find(FDefaults, column); }
     void Set(int column, Variant&& value) {
         const auto index = static_cast<size_t>(column);
-        if (index >= FValues.size()) FValues.resize(index + kAtOnce);
+        if (index >= FValues.size()) FValues.resize(index + 1);
         FValues[index] = std::move(value);
     }
     // All columns up to this one at most have been set.
     int End() const { return static_cast<int>(FValues.size()); }
 
   private:
-    static constexpr size_t kAtOnce = 16;
-
     static const Variant* Find(const Values& values, int column) {
         const auto index = static_cast<size_t>(column);
         return index < values.size() && values[index] ? &*values[index] : nullptr;

@@ -18,10 +18,6 @@ class NotifyList {
         if (FWalks == 0) Compact();
     }
 
-    bool Empty() const {
-        return std::all_of(FItems.begin(), FItems.end(), [](const T* item) { return !item; });
-    }
-
     // Calls `tell` with each; those removed meanwhile are left out, those added meanwhile are told as well.
     template <class Tell>
     void Each(Tell tell) {

@@ -56,6 +56,7 @@ PreparedQuery& TFDCustomQuery::RequirePrepared() {
         FPrepared.reset();
         FPrepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
         FColumnsVersion = -1;
+        FFits = false;
         if (wide) FPrepared->Widen();
     }
     return *FPrepared;
@@ -92,6 +93,7 @@ std::vector<InputValue> TFDCustomQuery::Inputs() const {
 // Runs the statement and brings its first rows. False: those were all. A stored character that the
 // connection's set lacks fails the row it is in: then all texts come as UTF-8.
 bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<Cursor>& cursor, int count) {
+    FFits = false;
     const std::shared_ptr<Attachment>& attachment = FPrepared->On();
     const auto read = [&](std::shared_ptr<Transaction> transaction, int wanted) {
         StatementLease statement = FPrepared->Take();

@@ -158,6 +158,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     mutable std::vector<fichario::WriteColumn> FTableColumns;
     mutable UnicodeString FColumnsTable;
     mutable int FColumnsVersion = -1;
+    bool FFits = false;                         // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
     bool FRemember = false;                     // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;

@@ -98,7 +98,9 @@ void TFDCustomQuery::TakeChanged(WriteColumn& column) const {
 // After a lost connection the statement is prepared anew, and must still give the columns that the rows here
 // have.
 void TFDCustomQuery::RequireWriting() {
-    if (RequirePrepared().Layout() == Rows().Layout()) return;
+    const PreparedQuery& prepared = RequirePrepared();
+    FFits = FFits || prepared.Layout() == Rows().Layout();
+    if (FFits) return;
     throw EDatabaseError(u"The columns of the statement have changed; refresh the dataset"_s);
 }
 

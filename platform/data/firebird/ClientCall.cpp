@@ -165,7 +165,7 @@ void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const Cal
     if (g_running) Abort();
     const auto free = qScopeGuard([] { g_running = false; });
     g_running = true;
-    g_stop = false;
+    g_stop.store(false, std::memory_order_relaxed);
     limit.Local&& IsShort(kind) ? RunShort(encoding, body) : RunWatched(kind, encoding, body, limit);
 }
 

@@ -153,7 +153,8 @@ void InputMessage::SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMet
 }
 
 void InputMessage::Lay(Firebird::ThrowStatusWrapper& status) {
-    FBytes.assign(FFormat->getMessageLength(&status), 0);
+    FBytes.resize(FFormat->getMessageLength(&status));
+    std::fill(FBytes.begin(), FBytes.end(), uint8_t{0});
     for (unsigned i = 0; i < FParts.size(); ++i) {
         const Part& part = FParts[i];
         const int16_t null = part.Null ? -1 : 0;

@@ -5,6 +5,7 @@
 //     if (input.Misfit()) …                    // a text that no record can hold
 #pragma once
 #include <optional>
+#include <QVarLengthArray>
 #include "platform/data/firebird/Columns.h"
 #include "platform/data/firebird/Statement.h"
 #include "platform/rtl/Variant.h"
@@ -33,6 +34,9 @@ struct Misfit {
     UnicodeString Character;  // the character that the character set lacks; empty: the text is too long
     int Limit;                // the characters that fit
 };
+
+// Holds the message of most tables without asking for memory.
+using MessageBytes = QVarLengthArray<uint8_t, 512>;
 
 class InputMessage {
   public:
@@ -81,7 +85,7 @@ class InputMessage {
     std::vector<Part> FParts;
     std::optional<fichario::Misfit> FMisfit;
     Firebird::IMessageMetadata* FFormat = nullptr;
-    std::vector<uint8_t> FBytes;
+    MessageBytes FBytes;
 };
 
 }  // namespace fichario

@@ -83,18 +83,18 @@ bool PutValue(const ColumnInfo& described, const InputValue& input, uint8_t* at)
     }
 }
 
-size_t LengthOf(const ColumnList& described) {
-    size_t length = 0;
+qsizetype LengthOf(const ColumnList& described) {
+    qsizetype length = 0;
     for (const ColumnInfo& column : described)
-        length = std::max<size_t>(length, column.NullOffset + sizeof(int16_t));
+        length = std::max<qsizetype>(length, column.NullOffset + sizeof(int16_t));
     return length;
 }
 
 }  // namespace
 
-bool LayPlain(const ColumnList& described, const std::vector<InputValue>& values,
-              std::vector<uint8_t>& message) {
-    message.assign(LengthOf(described), 0);
+bool LayPlain(const ColumnList& described, const std::vector<InputValue>& values, MessageBytes& message) {
+    message.resize(LengthOf(described));
+    std::fill(message.begin(), message.end(), uint8_t{0});
     for (size_t i = 0; i < described.size(); ++i) {
         const bool null = values[i].Value().IsNull() || values[i].Value().IsUnassigned();
         if (null) {

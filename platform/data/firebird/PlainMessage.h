@@ -1,6 +1,6 @@
 // Values laid straight into the message that a statement describes.
 //
-//     std::vector<uint8_t> message;
+//     MessageBytes message;
 //     if (!LayPlain(statement.Inputs(), values, message)) …    // needs a format of its own
 //
 // This spares each execution a message format of its own, which costs as much as a small INSERT.
@@ -11,7 +11,6 @@ namespace fichario {
 
 // True when each of the values, as many as `described`, is null or just what is described there: the same
 // kind, in range, with no more places, no longer. Otherwise `message` is of no use.
-bool LayPlain(const ColumnList& described, const std::vector<InputValue>& values,
-              std::vector<uint8_t>& message);
+bool LayPlain(const ColumnList& described, const std::vector<InputValue>& values, MessageBytes& message);
 
 }  // namespace fichario

@@ -80,15 +80,16 @@ int64_t RecordWriter::NamingFields(Run run) const {
     }
 }
 
-int64_t RecordWriter::Execute(const WriteWork& work, RowStore* returned) {
-    StatementLease statement = FAttachment.Prepare(work.Sql);
-    InputMessage input(FAttachment, statement->Inputs(), work.Values);
+int64_t RecordWriter::Execute(WriteWork& work, RowStore* returned) {
+    if (!work.Prepared) work.Prepared = FAttachment.Prepare(work.Sql);
+    Statement& statement = *work.Prepared;
+    InputMessage input(FAttachment, statement.Inputs(), work.Values);
     if (const auto& misfit = input.Misfit()) RefuseMisfit(*misfit, work.Places[misfit->Place]->Label);
-    if (returned && !statement->Columns().empty()) *returned = RowStore(RowLayout(statement->Columns()));
+    if (returned && !statement.Columns().empty()) *returned = RowStore(RowLayout(statement.Columns()));
     CheckCharacters(work);
     WriteScope write(FAttachment);
     const int64_t changed =
-        NamingFields([&] { return statement->Execute(*write.Get(), input, returned, CallKind::Write); });
+        NamingFields([&] { return statement.Execute(*write.Get(), input, returned, CallKind::Write); });
     if (!returned && changed == 0) {
         throw EDatabaseError(u"Este registro foi alterado ou excluído por outro usuário."_s);
     }
@@ -177,6 +178,7 @@ std::vector<Variant> RecordWriter::Insert(Insertion& last) {
     if (!TakeValues(last)) {
         last.Table = FTable;
         last.Work.Sql = InsertSql();
+        last.Work.Prepared = {};
     }
     RowStore returned;
     try {

@@ -9,9 +9,10 @@
 
 namespace fichario {
 
-// A statement's text and what goes into it.
+// A statement and what goes into it.
 struct WriteWork {
     UnicodeString Sql;
+    StatementLease Prepared;  // once it has been executed
     std::vector<InputValue> Values;
     std::vector<const WriteColumn*> Places;
     void Bind(const WriteColumn& column, const Variant& value);
@@ -53,7 +54,7 @@ class RecordWriter {
     void CheckCharacters(const WriteWork& work) const;
     template <class Run>
     int64_t NamingFields(Run run) const;
-    int64_t Execute(const WriteWork& work, RowStore* returned = nullptr);
+    int64_t Execute(WriteWork& work, RowStore* returned = nullptr);
     void Commit(WriteScope& write);
     TStringArray MissingKey() const;
     std::vector<Variant> KeyOf(const RowStore& returned) const;

@@ -46,7 +46,8 @@ void RowStore::Fit() {
 }
 
 void RowStore::InsertNull(int row) {
-    FDirectory.Insert(row, Add([&](uint8_t* at) { return FLayout.PackNull(at); }));
+    if (!FNull) FNull = Add([&](uint8_t* at) { return FLayout.PackNull(at); });
+    FDirectory.Insert(row, *FNull);
 }
 
 void RowStore::SetOutdated(int row) {

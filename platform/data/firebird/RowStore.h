@@ -7,6 +7,7 @@
 // A row that is replaced or removed leaves its bytes behind until the store goes: edits are few.
 #pragma once
 #include <memory>
+#include <optional>
 #include "platform/data/firebird/RowDirectory.h"
 #include "platform/data/firebird/RowLayout.h"
 
@@ -30,7 +31,7 @@ class RowStore {
     void Append(const uint8_t* message) {
         FDirectory.Append(Add([&](uint8_t* row) { return FLayout.Pack(message, row); }));
     }
-    // Adds a row of nulls before `row`, 0 to Count().
+    // Adds a row of nulls before `row`, 0 to Count(); it must hold values before it is outdated.
     void InsertNull(int row);
     // Marks a row as outdated until it becomes a copy or holds new values.
     void SetOutdated(int row);
@@ -74,7 +75,8 @@ class RowStore {
     size_t FUsed = 0, FRoom = 0;  // of the last chunk
     size_t FNextChunk = 0;        // the size it was to have; 0: the next one is a first one again
     size_t FHeld = 0;
-    bool FSomeOutdated = false;  // once a row was
+    bool FSomeOutdated = false;     // once a row was
+    std::optional<uint64_t> FNull;  // the row of nulls, which all that hold nothing yet share
 };
 
 }  // namespace fichario
