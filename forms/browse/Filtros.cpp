@@ -5,6 +5,7 @@
 #include "db/Prefixos.h"
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FormatSettings.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -49,8 +50,16 @@ Variant EndOfDay(const TFiltro& filtro, const Variant& value) {
     return TDateTime(DateOf(value.ToDateTime()).Value + kLastInstant);
 }
 
+// The server compares a pattern with the texts that it makes of numbers and dates itself.
+UnicodeString PatternText(const TFiltro& filtro) {
+    if (filtro.Valor1.Kind() == vkDateTime) return DateToNFeStr(filtro.Valor1.ToDateTime());
+    const UnicodeString text = filtro.Valor1.ToText();
+    const bool number = dynamic_cast<const TNumericField*>(filtro.Campo) != nullptr;
+    return number ? TrocaPorParams(text, FormatSettings.DecimalSeparator, u'.') : text;
+}
+
 Variant SingleValue(const TFiltro& filtro) {
-    if (filtro.Operador.startsWith(u'L')) return UnicodeString(filtro.Valor1.ToText() + u"%"_s);
+    if (filtro.Operador.startsWith(u'L')) return UnicodeString(PatternText(filtro) + u"%"_s);
     const bool endsPeriod = filtro.Operador == u"<="_s || filtro.Operador == u">"_s;
     return endsPeriod ? EndOfDay(filtro, filtro.Valor1) : filtro.Valor1;
 }

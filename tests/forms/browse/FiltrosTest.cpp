@@ -68,11 +68,12 @@ TEST_F(Filtros, BecomeConditionsParametersAndLines) {
         bool number = false;
         if (const int value = text.toInt(&number); number) return Variant(value);
         if (text.isEmpty()) return Variant();
+        if (text.contains(u',')) return Variant(Variant(text).ToDecimal());
         return TryStrToDate(text, day) ? Variant(day) : Variant(text);
     };
     CheckTextTable(BROWSE_TESTS "/tables/filtros.txt",
                    {{u"Filter"_s, [&](const QStringList& a) {
-                         for (TField* field : {Name, Code, Stamp, Day}) {
+                         for (TField* field : {Name, Code, Value, Stamp, Day}) {
                              if (field->FieldName() != a[0]) continue;
                              const TFiltro filter =
                                  Filter(field, a[1].toInt(), value(a[2]), value(a[3]), a[4].toInt());
