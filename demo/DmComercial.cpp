@@ -2,10 +2,15 @@
 
 #include "db/UDBUtils.h"
 #include "demo/dados/Banco.h"
+#include "demo/Diario.h"
 #include "platform/data/Field.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 TDM_Comercial::TDM_Comercial(TComponent* AOwner)
-    : TDM_Base(AOwner, nullptr), FConnection(new TFDConnection(this)) {}
+    : TDM_Base(AOwner, nullptr), FConnection(new TFDConnection(this)) {
+    FConnection->OnLost = [](TFDCustomConnection*) { Anotar(u"A conexão com o servidor foi perdida."_s); };
+}
 
 void TDM_Comercial::OpenDatabase(const UnicodeString& path) {
     ApontarConexao(*FConnection, path);

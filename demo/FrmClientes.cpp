@@ -5,6 +5,7 @@
 #include "forms/masters/Ficha.h"
 #include "platform/rtl/DateTime.h"
 #include "platform/system/UserInterface.h"
+#include "utils/Funcoes.h"
 #include "utils/UImpParticipante.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -119,8 +120,8 @@ void TFrmCadCliente::FindCompany() {
     cliente->UpdateRecord();
     UnicodeString cnpj, razao, fantasia, rua, numero, complemento, cep, bairro, cidade, uf;
     try {
-        if (!GetParticipante(cliente->FieldByName(u"NR_CPF"_s)->AsString(), cnpj, razao, fantasia, rua,
-                             numero, complemento, cep, bairro, cidade, uf))
+        if (!GetParticipante(GetNumbers(cliente->FieldByName(u"NR_CPF"_s)->AsString()), cnpj, razao, fantasia,
+                             rua, numero, complemento, cep, bairro, cidade, uf))
             return;
     } catch (...) {
         UserInterface().EnableMainForm(true);
@@ -143,4 +144,5 @@ void TFrmCadCliente::CreateTradePage() {
     ficha.Edit(u"VL_LIMITE"_s, 140);
     ficha.NewRow();
     ficha.Check(u"TF_ATIVO"_s, 140);
+    SetTabVisible(page, Module->GetRight(kLimite));
 }

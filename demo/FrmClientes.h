@@ -3,6 +3,9 @@
 
 #include "demo/FrmLista.h"
 
+// The host's own right in this module: to see and set what a customer may buy.
+inline const UnicodeString kLimite = QStringLiteral("Limite");
+
 class TFrmClientes : public TFrmLista {
   public:
     TFrmClientes(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData);

@@ -4,6 +4,7 @@
 
 #include "platform/ui/Application.h"
 #include "platform/ui/StdCtrls.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,6 +57,7 @@ void TFrmConexao::CreateEdits() {
                       Place(0, kWidth - kMargin - kPortWidth, kPortWidth));
     port->SetTextHint(u"3050"_s);
     port->SetMaxLength(5);
+    port->OnKeyPress = [](TComponent*, WideChar& key) { OnlyInteger(key); };
     TEdit* database = Add(&TDadosConexao::Banco, u"EdtBanco"_s, u"&Banco de dados"_s,
                           Place(1, kMargin, kWidth - 2 * kMargin));
     database->SetHint(u"A pasta e o arquivo, como o servidor os vê, ou o apelido do banco"_s);

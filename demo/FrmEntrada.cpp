@@ -1,8 +1,10 @@
 #include "demo/FrmEntrada.h"
 
+#include "demo/Diario.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/ListBoxes.h"
 #include "platform/ui/StdCtrls.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,7 +35,8 @@ void TFrmEntrada::CreateControls() {
     FNome = NewControl<TComboBox>(this, this, u"CbUsuario"_s, Row(0).translated(0, kLabelHeight));
     FNome->SetAccessibleName(u"Usuário"_s);
     for (const UnicodeString& nome : NomesDosUsuarios(*FData->Connection())) FNome->Items()->Add(nome);
-    FNome->SetItemIndex(std::max(0, FNome->Items()->IndexOf(u"Gerente"_s)));
+    const UnicodeString last = UltimoUsuario();
+    FNome->SetItemIndex(std::max(0, FNome->Items()->IndexOf(last.isEmpty() ? u"Gerente"_s : last)));
     user->SetFocusControl(FNome);
     auto* password = NewControl<TLabel>(this, this, u"LbSenha"_s, Row(1));
     password->SetCaption(u"&Senha"_s);
@@ -49,8 +52,10 @@ void TFrmEntrada::BtnConfirmarClick(TComponent* Sender) {
     const auto entrou = Entrar(*FData->Connection(), FNome->Text(), FSenha->Text());
     if (entrou) {
         FUsuario = *entrou;
+        LembrarUsuario(FUsuario.Nome);
         return TFrmEnt_Master::BtnConfirmarClick(Sender);
     }
+    Anotar(u"Entrada de %1 recusada em %2."_s.arg(FNome->Text(), GetComputerNameFunc()));
     Application->MessageBox(u"Usuário ou senha inválidos."_s, u"Aviso"_s, MB_ICONWARNING);
     FSenha->SetFocus();
     FSenha->SelectAll();

@@ -1,4 +1,5 @@
-// Entrada: who uses the program. The names are chosen from a list; a wrong password is told and asked again.
+// Entrada: who uses the program. The names are chosen from a list that begins at the last one who entered; a
+// wrong password is told and asked again.
 //
 //     auto* form = NewForm<TFrmEntrada>(this, &FEntrada, FData);
 //     if (form->ShowModal() == TFrmEnt_Master::kConfirmed) Use(form->Usuario());

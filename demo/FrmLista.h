@@ -1,5 +1,6 @@
 // The base of Comercial's views: they show their records from the start, and again after another column was
-// chosen, where a view master of filtered records would wait for something to search.
+// chosen, where a view master of filtered records would wait for something to search. While deleted records
+// are in sight a button restores the current one.
 #pragma once
 
 #include "demo/DmComercial.h"
@@ -19,6 +20,8 @@ class TFrmLista : public TFrmViz_Master {
 
   private:
     void ShowRecords();
+    void OfferRestoring();
+    void Restore();
 };
 
 // The base of the registration forms that make queries of their own.

@@ -5,6 +5,13 @@ using namespace Qt::Literals::StringLiterals;
 TFrmMunicipios::TFrmMunicipios(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData)
     : TFrmViz_Master(AOwner, AModule, nullptr, vtList, ktFieldProviderFlag), FData(AData) {}
 
+// Towns are only looked at.
+void TFrmMunicipios::FormCreate(TComponent* Sender) {
+    TFrmViz_Master::FormCreate(Sender);
+    for (TToolButton* button : {BtnNovo, BtnAlterar, BtnExcluir}) button->SetVisible(false);
+    FixToolBarSize();
+}
+
 void TFrmMunicipios::CreateControls() {
     TFrmViz_Master::CreateControls();
     TFDQuery* municipios = FData->NewQuery(this,

@@ -8,6 +8,8 @@ class TFrmMunicipios : public TFrmViz_Master {
   public:
     TFrmMunicipios(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData);
 
+    void FormCreate(TComponent* Sender) override;
+
   protected:
     void CreateControls() override;
 

@@ -1,6 +1,7 @@
 #include "demo/FrmPedidos.h"
 
 #include "db/UDBUtils.h"
+#include "demo/Diario.h"
 #include "demo/FrmProdutos.h"
 #include "demo/FrmRecibo.h"
 #include "forms/masters/Ficha.h"
@@ -8,6 +9,7 @@
 #include "platform/ui/Application.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/StdCtrls.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,6 +79,10 @@ void TFrmPedidos::Receipt() {
                                 MB_ICONINFORMATION);
         return;
     }
+    if (CurrentIsDeleted()) {
+        Application->MessageBox(u"Esse pedido foi excluído."_s, u"Informação"_s, MB_ICONINFORMATION);
+        return;
+    }
     auto* receipt = NewForm<TFrmRecibo>(this, Module, FData);
     receipt->Propor(order.FieldByName(u"NM_CLI"_s)->AsString(),
                     order.FieldByName(u"VL_TOTAL"_s)->AsCurrency(),
@@ -118,8 +124,27 @@ void TFrmCadPedido::CreateQuery() {
     FOnConfirm = [this](TDataSet*, unsigned char) {
         FItens->Concluir();
         if (FItens->Vazio()) throw Exception(u"Entre com um item antes de prosseguir."_s);
+        TakeNumber();
     };
+    FOnDelete = [this](TDataSet* excluido, unsigned char) { Delete(*excluido); };
     pedido->AfterPost = [this](TDataSet*) { FItens->Gravar(Campo(u"CD_PED"_s)->AsInteger()); };
+}
+
+// Only an order that is being saved uses a number up; one that failed keeps it for the next attempt.
+void TFrmCadPedido::TakeNumber() {
+    if (!Campo(u"CD_PED"_s)->IsNull()) return;
+    Campo(u"CD_PED"_s)->SetAsInteger(GetGeneratorID(FData->Connection(), u"GEN_PEDIDO"_s, 1));
+}
+
+void TFrmCadPedido::Delete(TDataSet& pedido) {
+    const UnicodeString qual = u"pedido %1 de %2, no valor de R$ %3"_s.arg(
+        Campo(u"CD_PED"_s)->AsString(), Campo(u"NM_CLI"_s)->AsString(), Campo(u"VL_TOTAL"_s)->DisplayText());
+    const UnicodeString pergunta = u"Tem certeza que deseja excluir o "_s + qual + u'?';
+    if (Application->MessageBox(pergunta, u"Confirmação"_s, MB_YESNO | MB_ICONQUESTION) != IDYES) Abort();
+    pedido.Edit();
+    Campo(u"TF_DEL"_s)->SetAsString(u"S"_s);
+    pedido.Post();
+    Anotar(u"Excluído o "_s + qual + u'.');
 }
 
 // The code brings the name, and a code that no customer has is refused.
@@ -212,10 +237,20 @@ void TFrmCadPedido::FindProduct() {
 void TFrmPesqCliente::CreateControls() {
     TFrmProcura::CreateControls();
     SetCaption(u"Procurar cliente"_s);
-    TFDQuery* customers = FData->NewQuery(this, u"SELECT NM_CLI, CIDADE, CD_CLI FROM CLIENTE"_s);
-    LabelAll(customers, {{u"NM_CLI", u"Nome"}, {u"CIDADE", u"Cidade"}});
+    TFDQuery* customers = FData->NewQuery(this, u"SELECT NM_CLI, CIDADE, NR_CPF, CD_CLI FROM CLIENTE"_s);
+    LabelAll(customers, {{u"NM_CLI", u"Nome"}, {u"CIDADE", u"Cidade"}, {u"NR_CPF", u"CPF/CNPJ"}});
+    // Tells people of one name apart; stored without its dots, it is only shown, not searched.
+    TField* document = customers->FieldByName(u"NR_CPF"_s);
+    document->SetOrigin(u"#0"_s);
+    document->OnGetText = [](TField* field, UnicodeString& text, bool) {
+        text = FormatCPF(field->Value().ToText());
+    };
+    // Nothing is sold to those who are not active.
+    SetWhere(Where() + u" AND TF_ATIVO = :ATIVO"_s);
+    AddParam(u"ATIVO"_s, u"S"_s);
     MainDS->SetDataSet(customers);
-    DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 380);
-    DBGrd->AddColumn(u"CIDADE"_s, u"Cidade"_s, 200);
+    DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 290);
+    DBGrd->AddColumn(u"CIDADE"_s, u"Cidade"_s, 190);
+    DBGrd->AddColumn(u"NR_CPF"_s, u"CPF/CNPJ"_s, 150);
     AddResultField(u"CD_CLI"_s);
 }

@@ -36,6 +36,8 @@ class TFrmCadPedido : public TFrmCadComercial {
     TField* Campo(const UnicodeString& nome) const { return MainDS->DataSet()->FieldByName(nome); }
     bool Editando() const;
     void CreateQuery();
+    void TakeNumber();
+    void Delete(TDataSet& pedido);
     void CreateCustomers();
     void CreateItems();
     void CreatePage();

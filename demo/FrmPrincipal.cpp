@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "demo/Diario.h"
 #include "demo/FrmClientes.h"
 #include "demo/FrmConexao.h"
 #include "demo/FrmEntrada.h"
@@ -11,6 +12,7 @@
 #include "demo/FrmRecibo.h"
 #include "demo/FrmVendedores.h"
 #include "platform/ui/Application.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -124,12 +126,13 @@ bool TFrmPrincipal::Assume(const UnicodeString& nome) {
 
 // Each user's windows are remembered apart.
 void TFrmPrincipal::Entrou(const TUsuario& usuario) {
+    Anotar(u"%1 entrou em %2."_s.arg(usuario.Nome, GetComputerNameFunc()));
     SetCaption(u"Comercial - "_s + usuario.Nome);
     const TStringArray names = NomesDosUsuarios(*FData->Connection());
     SetStateFileNumber(int(std::find(names.begin(), names.end(), usuario.Nome) - names.begin()) + 1);
     for (TModuleInstance* module : {&FClientes, &FMunicipios, &FPedidos, &FProdutos, &FVendedores}) {
         if (usuario.PodeTudo()) {
-            module->SetRights({u"New"_s, u"Edit"_s, u"Delete"_s});
+            module->SetRights({u"New"_s, u"Edit"_s, u"Delete"_s, kLimite});
         } else {
             module->SetRights(usuario.Em(module->Name()));
         }

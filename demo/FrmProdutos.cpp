@@ -1,7 +1,10 @@
 #include "demo/FrmProdutos.h"
 
+#include "demo/FrmPreco.h"
 #include "forms/base/UFrameRichText.h"
 #include "forms/masters/Ficha.h"
+#include "platform/ui/StdCtrls.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,6 +50,18 @@ void TFrmProdutos::CreateControls() {
     DBGrd->AddColumn(u"QT_ESTOQUE"_s, u"Estoque"_s, 100);
 }
 
+void TFrmProdutos::FormCreate(TComponent* Sender) {
+    TFrmLista::FormCreate(Sender);
+    CreateButton(u"BtnLocalizar"_s, u"Localizar"_s, u"IMG_LUPA"_s, -1,
+                 [this](TComponent*) { GoToProduct(); });
+}
+
+// Looks among all products, whatever the list shows, and moves the list to the one that was chosen.
+void TFrmProdutos::GoToProduct() {
+    FChosen = {};
+    FChosen.Form = NewForm<TFrmPesqProduto>(this, Module, &FChosen, UnicodeString(), FData);
+}
+
 void TFrmCadProduto::CreateControls() {
     TFrmCadComercial::CreateControls();
     SetClientWidth(kWidth);
@@ -70,17 +85,29 @@ void TFrmCadProduto::CreateQuery() {
 
 void TFrmCadProduto::CreateMainPage() {
     TabSheet1->SetCaption(u"Cadastro"_s);
-    const QStringList unidades = kUnidades.split(u';');
     TFicha ficha(this, TabSheet1, MainDS);
     ficha.ReadOnlyEdit(u"CD_PRO"_s, 90);
     ficha.Edit(u"NM_PRO"_s, 420);
     ficha.NewRow();
     ficha.Edit(u"REFERENCIA"_s, 160);
-    ficha.Combo(u"UNIDADE"_s, {unidades.begin(), unidades.end()}, 80);
+    ficha.Combo(u"UNIDADE"_s, ExplodeStr(kUnidades, u';'), 80);
     ficha.NewRow();
-    ficha.Edit(u"VL_VENDA"_s, 130);
+    TButton* price = ficha.Lookup(ficha.Edit(u"VL_VENDA"_s, 130), [this] { WorkOutPrice(); });
+    price->SetHint(u"Calcular (F2)"_s);
+    price->SetAccessibleName(u"Calcular o preço de venda"_s);
     ficha.Edit(u"QT_ESTOQUE"_s, 130);
     ficha.Edit(u"PESO"_s, 130);
+}
+
+// Where the record cannot be changed there is nothing to work out.
+void TFrmCadProduto::WorkOutPrice() {
+    TDataSet* produto = MainDS->DataSet();
+    if (produto->State() != dsEdit && produto->State() != dsInsert) return;
+    produto->UpdateRecord();
+    TField* price = produto->FieldByName(u"VL_VENDA"_s);
+    auto* form = NewForm<TFrmPreco>(this, Module, price->AsCurrency());
+    if (form->ShowModal() == TFrmEnt_Master::kConfirmed) price->SetAsCurrency(form->Preco());
+    form->Free();
 }
 
 void TFrmCadProduto::CreateTextPage() {

@@ -9,8 +9,15 @@ class TFrmProdutos : public TFrmLista {
   public:
     TFrmProdutos(TComponent* AOwner, TModuleInstance* AModule, TDM_Comercial* AData);
 
+    void FormCreate(TComponent* Sender) override;
+
   protected:
     void CreateControls() override;
+
+  private:
+    void GoToProduct();
+
+    TResearchResult FChosen;
 };
 
 class TFrmCadProduto : public TFrmCadComercial {
@@ -24,6 +31,7 @@ class TFrmCadProduto : public TFrmCadComercial {
     void CreateQuery();
     void CreateMainPage();
     void CreateTextPage();
+    void WorkOutPrice();
 };
 
 class TFrmPesqProduto : public TFrmProcura {

@@ -6,6 +6,7 @@
 
 #include "demo/dados/PedidoRegras.h"
 #include "platform/data/Field.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,6 +19,9 @@ const UnicodeString kItens =
 
 const UnicodeString kProduto =
     u"SELECT NM_PRO, UNIDADE, VL_VENDA FROM PRODUTO WHERE CD_PRO = :CODIGO AND COALESCE(TF_DEL, 'N') = 'N'"_s;
+
+// Sold by the piece, never a part of it.
+const UnicodeString kInteiras[] = {u"UN"_s, u"CX"_s, u"FL"_s, u"LT"_s, u"RL"_s, u"SC"_s};
 
 constexpr int kTagValor = 2;
 constexpr int kTagQuantidade = 3;
@@ -127,6 +131,9 @@ void TItensDoPedido::Criticar() const {
     if (Campo(u"CD_PRO"_s)->IsNull()) throw Exception(u"Entre com o produto do item antes de prosseguir."_s);
     if (Campo(u"QT_ITEM"_s)->AsDecimal().Unscaled <= 0)
         throw Exception(u"A quantidade do item deve ser maior que zero."_s);
+    if (StrInSet(Campo(u"UNIDADE"_s)->AsString(), kInteiras) && IsDecimal(Campo(u"QT_ITEM"_s)->AsFloat()))
+        throw Exception(
+            u"A quantidade do item deve ser inteira (%1)."_s.arg(Campo(u"UNIDADE"_s)->AsString()));
     if (Campo(u"VL_UNIT"_s)->AsDecimal().Unscaled < 0)
         throw Exception(u"O preço do item não pode ser negativo."_s);
     if (Campo(u"VL_ITEM"_s)->IsNull()) throw Exception(u"O valor do item é grande demais."_s);

@@ -83,7 +83,10 @@ int main(int argc, char** argv) {
     ApplyLooks(app);
     const TOptions options = ReadOptions(app);
     const QTemporaryDir state;  // the tour's pictures do not depend on what the user's screens remember
-    if (!options.TourFolder.isEmpty()) SetProgramFolder(state.path());
+    if (!options.TourFolder.isEmpty()) {
+        SetProgramFolder(state.path());
+        qputenv("XDG_CONFIG_HOME", state.path().toLocal8Bit());
+    }
     TApplication application;
     try {
         return RunHost(options);

@@ -6,6 +6,7 @@
 #include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/Query.h"
+#include "utils/Funcoes.h"
 #include "utils/MD5.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,7 +31,7 @@ UnicodeString Embaralhada(const UnicodeString& senha) {
 
 std::set<UnicodeString> TUsuario::Em(const UnicodeString& modulo) const {
     std::set<UnicodeString> direitos;
-    for (const UnicodeString& direito : Direitos.split(u';', Qt::SkipEmptyParts)) {
+    for (const UnicodeString& direito : ExplodeStr(Direitos, u';')) {
         if (direito.startsWith(modulo + u'.')) direitos.insert(direito.mid(modulo.size() + 1));
     }
     return direitos;

@@ -16,7 +16,7 @@ struct TUsuario {
     UnicodeString Direitos;  // "*": everything; else "MODULE.right" as often as needed, separated by ';'
 
     bool PodeTudo() const { return Direitos == u"*"; }
-    // The rights in a module: "New", "Edit", "Delete".
+    // The rights in a module: "New", "Edit", "Delete", and those of its own.
     std::set<UnicodeString> Em(const UnicodeString& modulo) const;
 };
 

@@ -139,11 +139,33 @@ TEST_F(Cadastro, ADeletedCustomerIsRestored) {
     ExpectBox(
         u"Para efetuar alguma alteração, você deve restaurar o registro. Deseja restaurar o registro selecionado?"_s,
         u"Confirmação"_s, kPergunta, IDYES);
-    Press(VK_RETURN);
+    Click(Find<TControl>(Lista(), u"BtnRestaurar"_s));
     ASSERT_TRUE(Ficha());
     Press(VK_F12);
     ASSERT_TRUE(FichaClosed());
     EXPECT_EQ(Stored(mark), u"N");
+    ExpectBox(u"O registro selecionado não está excluído."_s, u"Informação"_s, 64);
+    Click(Find<TControl>(Lista(), u"BtnRestaurar"_s));
+    Lista()->ExibirRegistrosExcludos1->Click();
+    EXPECT_FALSE(Lista()->FindComponent(u"BtnRestaurar"_s));
+}
+
+TEST_F(Cadastro, APriceIsWorkedOutFromItsCost) {
+    OpenList('R');
+    Press(VK_RETURN);
+    Find<TControl>(Ficha(), u"DbVL_VENDA"_s)->SetFocus();
+    ExpectModal([this](TForm*) {
+        Fill(u"100"_s);
+        Fill(u"100"_s);
+        ExpectBox(u"O custo e os percentuais não deixam preço."_s, u"Aviso"_s, kAviso);
+        Press(VK_F12);
+        for (const UnicodeString& text : {u"100"_s, u"18x"_s, u"12"_s, u"20.0"_s}) Fill(text);
+        Press(VK_F12);
+    });
+    Press(VK_F2);
+    EXPECT_EQ(Ficha()->MainDS->DataSet()->FieldByName(u"VL_VENDA"_s)->DisplayText(), u"200,00");
+    Press(VK_F12);
+    ASSERT_TRUE(FichaClosed());
 }
 
 TEST_F(Cadastro, TheListIsPrintedAndReadsAsItStands) {

@@ -11,8 +11,10 @@
 #include "platform/rtl/Files.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
+#include "platform/ui/ListBoxes.h"
 #include "platform/ui/StdCtrls.h"
 #include "tests/support/Screen.h"
+#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -99,6 +101,29 @@ TEST_F(Entradas, GivingUpAReceiptAsksOnceSomethingIsTyped) {
     });
     ExpectBox(u"Você tem certeza que deseja cancelar?"_s, u"Confirmação"_s, kPergunta, IDYES);
     Main->OpenRecibo();
+}
+
+TEST_F(Entradas, WhoEntersIsNotedAndProposedNextTime) {
+    qputenv("XDG_CONFIG_HOME", Folder.path().toLocal8Bit());
+    const auto proposed = [](TForm* form) { return Find<TComboBox>(form, u"CbUsuario"_s)->Text(); };
+    ExpectModal([&](TForm* form) {
+        EXPECT_EQ(proposed(form), u"Gerente");
+        TypeText(u"V"_s);
+        Press(VK_RETURN);
+        TypeText(u"x"_s);
+        ExpectBox(u"Usuário ou senha inválidos."_s, u"Aviso"_s, MB_ICONWARNING);
+        Press(VK_F12);
+        Press(VK_BACK);
+        Press(VK_F12);
+    });
+    EXPECT_TRUE(Main->Identifica());
+    const QByteArray diary = ReadWholeFile(LogFileName());
+    EXPECT_TRUE(diary.contains("Entrada de Vendedor recusada em ") && diary.contains("Vendedor entrou em "));
+    ExpectModal([&](TForm* form) {
+        EXPECT_EQ(proposed(form), u"Vendedor");
+        Press(VK_ESCAPE);
+    });
+    EXPECT_FALSE(Main->Identifica());
 }
 
 TEST(Recibo, SaysItsSentence) {

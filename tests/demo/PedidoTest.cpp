@@ -1,10 +1,12 @@
 // The journeys with orders, by key events only, checked over a second connection: an order with its items in
 // one transaction, what is refused on the way, and what a user may not do.
 #include "platform/data/Query.h"
+#include "platform/rtl/Files.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/StdCtrls.h"
 #include "tests/demo/Balcao.h"
+#include "utils/Funcoes.h"
 
 namespace {
 
@@ -92,7 +94,13 @@ TEST_F(Pedido, RefusesWhatIsNoOrderAndKeepsWhatWasTyped) {
     Press(VK_ESCAPE);  // the row, and not the order
     ASSERT_TRUE(Ficha());
     EXPECT_EQ(Ficha()->MainDS->DataSet()->State(), dsInsert);
-    Item(u"3"_s, u"4"_s);
+    ExpectBox(u"A quantidade do item deve ser inteira (UN)."_s, u"Erro"_s, 16);
+    Item(u"3"_s, u"4,5"_s);
+    Press(VK_LEFT);
+    Press(VK_LEFT);
+    Cell(u"4"_s);
+    Press(VK_RETURN);
+    Press(VK_RETURN);
     ExpectBox(u"Você tem certeza que deseja cancelar?"_s, u"Confirmação"_s, kPergunta, IDNO);
     Press(VK_ESCAPE);  // out of the untouched row
     Press(VK_ESCAPE);
@@ -118,7 +126,27 @@ TEST_F(Pedido, IsNotSavedWithoutItsItems) {
     EXPECT_EQ(Stored(u"SELECT COUNT(*) FROM PEDIDO"_s), before);
     Second->ExecSQL(u"DELETE FROM USUARIO WHERE NM_USU = 'Recusa'"_s);
     Confirm();
-    EXPECT_EQ(Items(Stored(u"SELECT MAX(CD_PED) FROM PEDIDO"_s)), u"1:1x2.000,2:2x3.000");
+    const UnicodeString order = Stored(u"SELECT MAX(CD_PED) FROM PEDIDO"_s);
+    EXPECT_EQ(Items(order), u"1:1x2.000,2:2x3.000");
+    EXPECT_EQ(Stored(u"SELECT GEN_ID(GEN_PEDIDO, 0) FROM RDB$DATABASE"_s), order) << "one number for both";
+}
+
+TEST_F(Pedido, IsDeletedByNameAndNotedAndHasNoReceiptThen) {
+    OpenList('P');
+    const UnicodeString which = u"pedido 1 de %1, no valor de R$ %2"_s.arg(
+        Current(u"NM_CLI"_s), Lista()->MainDS->DataSet()->FieldByName(u"VL_TOTAL"_s)->DisplayText());
+    Click(Lista()->BtnExcluir);
+    ExpectBox(u"Tem certeza que deseja excluir o "_s + which + u'?', u"Confirmação"_s, kPergunta, IDNO);
+    Press(VK_F12);
+    ASSERT_TRUE(Ficha());
+    ExpectBox(u"Tem certeza que deseja excluir o "_s + which + u'?', u"Confirmação"_s, kPergunta, IDYES);
+    Press(VK_F12);
+    ASSERT_TRUE(FichaClosed());
+    EXPECT_EQ(Stored(u"SELECT TF_DEL FROM PEDIDO WHERE CD_PED = 1"_s), u"S");
+    EXPECT_TRUE(ReadWholeFile(LogFileName()).contains("pedido 1 de "));
+    Lista()->ExibirRegistrosExcludos1->Click();
+    ExpectBox(u"Esse pedido foi excluído."_s, u"Informação"_s, 64);
+    Click(Find<TControl>(Lista(), u"BtnRecibo"_s));
 }
 
 TEST_F(Pedido, ChangedItemsAreWrittenAndTheLookupBringsAProduct) {
@@ -188,6 +216,7 @@ TEST_F(Pedido, UsersHaveTheRightsOfTheirs) {
         bool Adds;
         const char16_t* Mode;
     } cases[] = {{u"Gerente", 'R', true, u"Produtos [Alterando]"},
+                 {u"Vendedor", 'C', true, u"Clientes [Alterando]"},
                  {u"Vendedor", 'P', true, u"Pedidos [Alterando]"},
                  {u"Vendedor", 'R', false, u"Produtos [Visualizando]"},
                  {u"Consulta", 'P', false, u"Pedidos [Visualizando]"}};
@@ -204,6 +233,8 @@ TEST_F(Pedido, UsersHaveTheRightsOfTheirs) {
         Press(VK_RETURN);
         ASSERT_TRUE(Ficha());
         EXPECT_EQ(Ficha()->Caption(), UnicodeString::fromUtf16(c.Mode));
+        const bool credit = Ficha()->BtnTabSet->TabCount() > 1;
+        EXPECT_FALSE(c.Letter == 'C' && credit);
         Press(VK_ESCAPE);
         ASSERT_TRUE(FichaClosed());
         Lista()->Close();
