@@ -34,7 +34,7 @@ class TGridLink : public TDataLink {
         FGrid.DropEditor();
         FGrid.RowsChanged();
     }
-    void DataSetChanged() override { FGrid.RowsChanged(); }
+    void DataSetChanged() override { FGrid.RowsRefreshed(); }
     void RowsArrived() override {
         FGrid.UpdateScrollBars();
         FGrid.viewport()->update();
@@ -174,6 +174,15 @@ void TDBGrid::RowsChanged() {
     QueueFetch();
 }
 
+// A refresh leaves the user where he has scrolled to, as long as the same row is current.
+void TDBGrid::RowsRefreshed() {
+    const bool same = FLink->Active() && DataSet()->State() == dsBrowse && CurrentRow() == FShownRow;
+    if (!same) return RowsChanged();
+    UpdateScrollBars();
+    viewport()->update();
+    QueueFetch();
+}
+
 void TDBGrid::UpdateScrollBars() {
     const TGridGeometry where = Geometry();
     verticalScrollBar()->setRange(0, std::max(0, where.Metrics().RowCount - where.FullRows()));
@@ -192,6 +201,7 @@ void TDBGrid::ShowCurrentRow() {
         const int top = std::clamp(where.Metrics().TopRow, row - where.FullRows() + 1, row);
         verticalScrollBar()->setValue(std::max(0, top));
     }
+    FShownRow = row;
     if (FEditor->IsOpen()) FEditor->Place(Geometry().Cell(row, FSelected));
     viewport()->update();
 }
@@ -240,6 +250,17 @@ void TDBGrid::scrollContentsBy(int, int) {
 void TDBGrid::changeEvent(QEvent* event) {
     TWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) RowsChanged();
+}
+
+// The mark of the selected cell shows the focus, and the toolkit would redraw the frame only.
+void TDBGrid::focusInEvent(QFocusEvent* event) {
+    TWidget::focusInEvent(event);
+    viewport()->update();
+}
+
+void TDBGrid::focusOutEvent(QFocusEvent* event) {
+    TWidget::focusOutEvent(event);
+    viewport()->update();
 }
 
 bool TDBGrid::viewportEvent(QEvent* event) {

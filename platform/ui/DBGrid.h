@@ -119,6 +119,8 @@ class TDBGrid : public TWidget<QAbstractScrollArea>, private TColumnsHost {
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -137,6 +139,7 @@ class TDBGrid : public TWidget<QAbstractScrollArea>, private TColumnsHost {
 
     // Following the dataset
     void RowsChanged();
+    void RowsRefreshed();
     void ShowCurrentRow();
     void UpdateScrollBars();
     void QueueFetch();
@@ -172,6 +175,7 @@ class TDBGrid : public TWidget<QAbstractScrollArea>, private TColumnsHost {
     TGridEditor* FEditor;  // a child of the viewport
     TDBGridOptions FOptions;
     int FSelected = 0;
+    int FShownRow = -1;  // the current row that was last brought into sight
     bool FReadOnly = false;
     bool FFetchQueued = false;
 };

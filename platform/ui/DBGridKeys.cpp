@@ -289,6 +289,5 @@ void TDBGrid::DoExit() {
     SetEditorMode(false);
     const bool open = DataSet() && DataSet()->Active();
     if (open && (FOptions & dgCancelOnExit) && InUntouchedRow()) DataSet()->Cancel();
-    viewport()->update();
     TWidget::DoExit();
 }

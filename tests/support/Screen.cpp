@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include "platform/ui/Application.h"
@@ -144,6 +145,13 @@ void Drag(QWidget* widget, QPoint from, QPoint to) {
     }
     QTest::mouseRelease(window, Qt::LeftButton, {}, end);
     Settle();
+}
+
+void Wheel(QWidget* widget, int turn) {
+    const QPointF at = widget->rect().center();
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &event);
 }
 
 bool Until(const std::function<bool()>& done) {

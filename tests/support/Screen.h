@@ -35,6 +35,9 @@ void ClickAt(QWidget* widget, QPoint at);
 // Presses the left button at `from`, moves in steps and releases it at `to`, in the widget's coordinates.
 void Drag(QWidget* widget, QPoint from, QPoint to);
 
+// A turn of the wheel over the middle of a widget: 120 for each notch, negative towards the user.
+void Wheel(QWidget* widget, int turn);
+
 // Lets the program go on until `done` is true, at most five seconds. Returns what `done` says in the end.
 bool Until(const std::function<bool()>& done);
 

@@ -3,9 +3,9 @@
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWheelEvent>
 #include <set>
 #include "tests/platform/ui/GridFixture.h"
+#include "tests/support/Screen.h"
 
 namespace {
 
@@ -70,13 +70,6 @@ class DBGridTest : public GridFixture {
         }
         return names.join(u' ');
     }
-    void Wheel(int delta) {
-        const QPointF at = View()->rect().center();
-        QWheelEvent event(at, View()->mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(View(), &event);
-    }
-
     TDBGrid* Grid = nullptr;
     QStringList Heard;
 };
@@ -129,6 +122,9 @@ TEST_F(DBGridTest, ScrollingFetchesAndLeavesTheRecord) {
     EXPECT_EQ(Query->RowCount(), 2000);
     EXPECT_EQ(Grid->Geometry().EndRow(), 2000);
     EXPECT_EQ(Query->RecNo(), 1);
+    const int top = Grid->TopRow();
+    Query->Refresh();
+    EXPECT_EQ(Grid->TopRow(), top);
     Key(Qt::Key_Down);
     EXPECT_EQ(Query->RecNo(), 2);
     EXPECT_LE(Grid->TopRow(), 1);
@@ -136,13 +132,13 @@ TEST_F(DBGridTest, ScrollingFetchesAndLeavesTheRecord) {
 
 TEST_F(DBGridTest, WheelIsTheFormsFirst) {
     Open(50);
-    Wheel(-120);
-    Wheel(-120);
-    Wheel(120);
+    Wheel(View(), -120);
+    Wheel(View(), -120);
+    Wheel(View(), 120);
     EXPECT_EQ(Query->RecNo(), 2);
     auto* other = NewForm<TWheelForm>(Application);
     Grid->SetParent(other);
-    Wheel(-120);
+    Wheel(View(), -120);
     EXPECT_EQ(Query->RecNo(), 2);
     EXPECT_EQ(other->Turned, -120);
     Grid->SetParent(nullptr);
@@ -164,6 +160,15 @@ TEST_F(DBGridTest, PaintsTheVisibleRowsOnly) {
     EXPECT_EQ(*painted.rbegin(), where.EndRow());
     EXPECT_EQ(int(painted.size()), where.EndRow() - where.Metrics().TopRow);
     EXPECT_EQ(Query->RecNo(), 61);
+    // the mark of the focus comes and goes with it
+    auto* edit = NewEdit<TDBEdit>(u"NM"_s);
+    const std::initializer_list<TControl*> controls = {edit, Grid};
+    for (TControl* control : controls) {
+        QCoreApplication::processEvents();
+        painted.clear();
+        control->SetFocus();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !painted.empty(); }));
+    }
 }
 
 TEST_F(DBGridTest, LongTextsShowWholeInATip) {
