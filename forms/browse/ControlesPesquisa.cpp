@@ -66,6 +66,7 @@ void TFrmGrid_Master::CreateSearchPanel() {
     EdtPesquisa = new TMaskEdit(this);
     EdtPesquisa->SetName(u"EdtPesquisa"_s);
     EdtPesquisa->SetAccessibleName(u"Pesquisa"_s);
+    EdtPesquisa->SetHint(u"Ctrl+F3 pesquisa por outra coluna"_s);
     CbPesquisa = new TComboBox(this);
     CbPesquisa->SetName(u"CbPesquisa"_s);
     CbPesquisa->SetAccessibleName(u"Pesquisa"_s);
@@ -137,6 +138,7 @@ void TFrmGrid_Master::WireSearch() {
         picker->OnKeyPress = [this](TComponent* sender, WideChar& key) { EdtPesquisaKeyPress(sender, key); };
     }
     CbPesquisa->OnChange = [this](TComponent* sender) { CbPesquisaChange(sender); };
+    CbPesquisa->OnKeyPress = [this](TComponent* sender, WideChar& key) { CbPesquisaKeyPress(sender, key); };
     ImgCancelPesq->OnClick = [this](TComponent* sender) { ImgCancelPesqClick(sender); };
     OnResize = [this](TComponent* sender) { FormResize(sender); };
     OnKeyDown = [this](TComponent* sender, int& key, TShiftState shift) { FormKeyDown(sender, key, shift); };

@@ -109,8 +109,11 @@ void TFrmGrid_Master::FormResize(TComponent*) {
     FixPesqPanel();
 }
 
-void TFrmGrid_Master::FormKeyDown(TComponent*, int& Key, TShiftState) {
-    if (Key == VK_F3) {
+void TFrmGrid_Master::FormKeyDown(TComponent*, int& Key, TShiftState Shift) {
+    if (Key == VK_F3 && (Shift & ssCtrl)) {
+        Key = 0;
+        OrderByNeighbour(Shift & ssShift ? -1 : 1);
+    } else if (Key == VK_F3) {
         Key = 0;
         const std::initializer_list<TControl*> inputs = {EdtPesquisa2, DpPesq1, CbPesquisa, EdtPesquisa};
         for (TControl* input : inputs) {
@@ -127,7 +130,13 @@ void TFrmGrid_Master::FormKeyDown(TComponent*, int& Key, TShiftState) {
     }
 }
 
+bool TFrmGrid_Master::ListIsOpen() const {
+    const bool dates = DpPesq1->Visible();
+    return CbPesquisa->DroppedDown() || (dates && (DpPesq1->DroppedDown() || DpPesq2->DroppedDown()));
+}
+
 void TFrmGrid_Master::FormKeyPress(TComponent* Sender, WideChar& Key) {
+    if (ListIsOpen()) return;
     if (Key == VK_ESCAPE) {
         Key = 0;
         const bool searching = (EdtPesquisa->Focused() || EdtPesquisa2->Focused()) && !ShowsHint(EdtPesquisa);
@@ -149,19 +158,20 @@ void TFrmGrid_Master::FormKeyPress(TComponent* Sender, WideChar& Key) {
     TFrmBase::FormKeyPress(Sender, Key);
 }
 
-void TFrmGrid_Master::EdtPesquisaChange(TComponent*) {
+// In a list the box just typed in counts; a numeric column has two.
+void TFrmGrid_Master::EdtPesquisaChange(TComponent* Sender) {
     if (ShowsHint(EdtPesquisa)) return;
+    ImgPesq->SetVisible(false);
+    ImgCancelPesq->SetVisible(true);
     const UnicodeString text = EdtPesquisa->Text();
     if (FVisType == vtList) {
-        Locate(text);
+        Locate(Sender == EdtPesquisa2 ? EdtPesquisa2->Text() : text);
     } else if (!text.isEmpty() || PnPesquisa2->Visible()) {
         FSearchTerm = text;
         LookingForRecords = true;
         FTmPesquisa->SetEnabled(false);
         FTmPesquisa->SetEnabled(true);
     }
-    ImgPesq->SetVisible(false);
-    ImgCancelPesq->SetVisible(true);
 }
 
 void TFrmGrid_Master::EdtPesquisaEnter(TComponent*) {
@@ -187,7 +197,7 @@ void TFrmGrid_Master::EdtPesquisaKeyDown(TComponent*, int& Key, TShiftState) {
     if (Key != VK_UP && Key != VK_DOWN) return;
     const bool up = Key == VK_UP;
     Key = 0;
-    if (!MainDataSet()->Active()) return;
+    if (!DataIsOpen()) return;
     if (up) {
         MainDataSet()->Prior();
     } else {
@@ -196,6 +206,7 @@ void TFrmGrid_Master::EdtPesquisaKeyDown(TComponent*, int& Key, TShiftState) {
 }
 
 void TFrmGrid_Master::EdtPesquisaKeyPress(TComponent*, WideChar& Key) {
+    if (ListIsOpen()) return;
     if (Key == VK_RETURN) {
         Key = 0;
         if (EdtPesquisa2->Focused()) {
@@ -230,6 +241,12 @@ void TFrmGrid_Master::DpPesq1Change(TComponent*) {
 
 void TFrmGrid_Master::CbPesquisaChange(TComponent*) {
     if (CbPesquisa->ItemIndex() >= 0) Locate((*ComboValues)[CbPesquisa->ItemIndex()]);
+}
+
+// The item shown at first has not been searched for yet.
+void TFrmGrid_Master::CbPesquisaKeyPress(TComponent* Sender, WideChar& Key) {
+    if (Key == VK_RETURN && !ListIsOpen()) CbPesquisaChange(Sender);
+    EdtPesquisaKeyPress(Sender, Key);
 }
 
 void TFrmGrid_Master::ImgCancelPesqClick(TComponent*) {

@@ -1,23 +1,12 @@
 #include "forms/browse/UGrid_Master.h"
 
-#include <algorithm>
-
 #include "forms/browse/CriterioPesquisa.h"
 #include "platform/data/DataSet.h"
 #include "platform/rtl/FormatSettings.h"
-#include "platform/ui/Application.h"
 #include "platform/ui/Palette.h"
 #include "utils/Funcoes.h"
-#include "utils/funcoes/Janelas.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-const UnicodeString kOrderMark = u"»"_s;
-const UnicodeString kUnsearchable = u"#0"_s;
-
-}  // namespace
 
 TFrmGrid_Master::TFrmGrid_Master(TComponent* AOwner, TModuleInstance* AModule, bool HideParent,
                                  TVizsualizationType AVisType, TKeyType AKeyType)
@@ -26,8 +15,14 @@ TFrmGrid_Master::TFrmGrid_Master(TComponent* AOwner, TModuleInstance* AModule, b
       FKeyType(AKeyType),
       ComboValues(std::make_unique<TStringList>()) {}
 
+TDataSet* TFrmGrid_Master::MainDataSet() const {
+    if (!MainDS->DataSet()) throw Exception(u"No dataset linked on data source."_s);
+    return MainDS->DataSet();
+}
+
 void TFrmGrid_Master::Construct() {
     TFrmBase::Construct();
+    WatchOrderField();
     if (ImgLst) std::exchange(ImgLst, nullptr)->Free();
     ImgLst = new TImageList(this, 24, 24);
     FLabelCount = dynamic_cast<TLabel*>(FindComponent(u"LbRegCount"_s));
@@ -38,10 +33,10 @@ void TFrmGrid_Master::Construct() {
 
 void TFrmGrid_Master::FormCreate(TComponent* Sender) {
     TFrmBase::FormCreate(Sender);
-    if (!MainDataSet()) throw Exception(u"No dataset linked on data source."_s);
+    TDataSet* data = MainDataSet();
     if (FVisType == vtList) {
         DBGrd->SetOptions(DBGrd->Options() | dgRowSelect | dgAlwaysShowSelection);
-        MainDataSet()->Open();
+        data->Open();
     }
     GetRecordCount();
     if (FKeyType == ktFieldProviderFlag) GetPrimaryKey();
@@ -51,56 +46,22 @@ void TFrmGrid_Master::FormCreate(TComponent* Sender) {
     AdjustNumericColumns();
 }
 
-void TFrmGrid_Master::GetOrderField() {
-    const int count = DBGrd->Columns().Count();
-    if (count == 0) return;
-    const int wanted = int(MainDataSet()->Tag());
-    int index = 0;
-    if (wanted >= 0 && wanted < MainDataSet()->FieldCount()) {
-        const TField* field = MainDataSet()->Fields()[wanted];
-        for (int i = count - 1; i >= 0; --i) {
-            if (DBGrd->Columns()[i]->Field() == field) index = i;
-        }
-    }
-    SetOrderFieldIndex(index);
-}
-
-void TFrmGrid_Master::SetOrderFieldIndex(int Index) {
-    if (Index < 0 || Index >= DBGrd->Columns().Count()) {
-        throw Exception(
-            u"Você precisa definir qual campo de ordem padrão. Informe o campo na propriedade \"Tag\" do DataSet principal."_s);
-    }
-    TColumn* column = DBGrd->Columns()[Index];
-    if (column->Field() && column->Field()->Origin() == kUnsearchable) Abort();
-    if (FOrderFieldIndex >= 0 && FOrderFieldIndex < DBGrd->Columns().Count()) {
-        DBGrd->Columns()[FOrderFieldIndex]->Title().SetCaption(FOrderDesc);
-    }
-    FOrderFieldIndex = Index;
-    CbPesquisa->SetVisible(false);
-    FOrderField = column->Field();
-    FOrderDesc = column->Title().Caption();
-    column->Title().SetCaption(kOrderMark + FOrderDesc);
-    EdtPesquisa->SetEditMask({});
-    if (FVisType == vtFilter) MainDataSet()->Close();
-    ClearSearch();
-    GetRecordCount();
-    if (SearchKindOf(FOrderField) == skDate) {
-        ShowDateSearch();
-    } else {
-        ShowTextSearch(column);
-    }
-}
-
 void TFrmGrid_Master::Locate(const UnicodeString& Value) {
-    struct SearchEnds {
-        bool& pending;
-        ~SearchEnds() { pending = false; }
-    } searchEnds{LookingForRecords};
-    if (FVisType == vtFilter) {
-        FilterData();
-    } else {
-        LocateInList(Value);
+    try {
+        if (FVisType == vtFilter) {
+            FilterData();
+        } else {
+            LocateInList(Value);
+        }
+    } catch (...) {
+        SearchEnded();
+        throw;
     }
+    SearchEnded();
+}
+
+void TFrmGrid_Master::SearchEnded() {
+    LookingForRecords = false;
     GetRecordCount();
 }
 
@@ -143,7 +104,7 @@ void TFrmGrid_Master::FinishSearch() {
 void TFrmGrid_Master::GetRecordCount() {
     if (!FLabelCount) return;
     FTmContagem->SetEnabled(false);
-    if (!MainDataSet()->Active() || MainDataSet()->AllFetched()) {
+    if (!DataIsOpen() || MainDataSet()->AllFetched()) {
         ShowCount();
         return;
     }
@@ -153,8 +114,8 @@ void TFrmGrid_Master::GetRecordCount() {
 
 void TFrmGrid_Master::ShowCount() {
     FTmContagem->SetEnabled(false);
-    if (MainDataSet()->Active()) FRecordCount = MainDataSet()->RecordCount();
-    FLabelCount->SetCaption(CountText(MainDataSet()->Active() ? FRecordCount : 0));
+    if (DataIsOpen()) FRecordCount = MainDataSet()->RecordCount();
+    FLabelCount->SetCaption(CountText(DataIsOpen() ? FRecordCount : 0));
 }
 
 void TFrmGrid_Master::AddParam(const UnicodeString& Param, const Variant& Value) {
@@ -179,16 +140,6 @@ int TFrmGrid_Master::GetPrimaryKey() {
     }
     if (PrimaryKey.empty()) throw Exception(u"Nenhuma chave primaria foi definida."_s);
     return int(PrimaryKey.size());
-}
-
-UnicodeString TFrmGrid_Master::GetColumnTitle(int Index) const {
-    return Index == FOrderFieldIndex ? FOrderDesc : DBGrd->Columns()[Index]->Title().Caption();
-}
-
-void TFrmGrid_Master::SetColumnTitle(int Index, const UnicodeString& Title) {
-    const bool ordering = Index == FOrderFieldIndex;
-    if (ordering) FOrderDesc = Title;
-    DBGrd->Columns()[Index]->Title().SetCaption(ordering ? kOrderMark + Title : Title);
 }
 
 void TFrmGrid_Master::FixColsWidths() {
@@ -221,32 +172,15 @@ void TFrmGrid_Master::WndProc(TMessage& Message) {
     }
 }
 
-void TFrmGrid_Master::CmdSetMovedOff() {
-    FColumnMoved = false;
-}
-
 void TFrmGrid_Master::ScrollMouse(TMessage& Message) {
     Message.Result = 1;  // the grid need not scroll by itself
-    if (!MainDataSet()->Active()) return;
+    if (!DataIsOpen()) return;
     const int turn = int16_t(Message.WParam >> 16);
     if (turn < 1) {
         MainDataSet()->Next();
     } else {
         MainDataSet()->Prior();
     }
-}
-
-void TFrmGrid_Master::DBGrdTitleClick(TColumn* Column) {
-    if (std::exchange(FColumnMoved, false)) return;
-    SetOrderFieldIndex(Column->Index());
-}
-
-void TFrmGrid_Master::DBGrdColumnMoved(int, int) {
-    FColumnMoved = true;
-    for (int i = 0; i < DBGrd->Columns().Count(); ++i) {
-        if (DBGrd->Columns()[i]->Field() == FOrderField) FOrderFieldIndex = i;
-    }
-    PostMessage(this, MSG_ATIVADO);
 }
 
 void TFrmGrid_Master::DBGrdGetTextColor(TColumn*, QColor& Color, QFont& Font) {

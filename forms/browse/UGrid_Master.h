@@ -15,10 +15,14 @@
 //         MainDS->SetDataSet(FQuery);
 //         DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 280);
 //     }
+//
+// Keys: F3 goes to the search box, Ctrl+F3 and Ctrl+Shift+F3 take the next and the previous column to search
+// in, as a click on its title does; F5 reads everything anew; Escape clears the search, then closes.
 #pragma once
 
 #include "db/UDBUtils.h"
 #include "forms/base/UFrmBase.h"
+#include "platform/data/DataLink.h"
 #include "platform/data/DataSource.h"
 #include "platform/rtl/Strings.h"
 #include "platform/rtl/Variant.h"
@@ -50,6 +54,10 @@ class TFrmGrid_Master : public TFrmBase {
     // field has the origin "#0" cannot be searched and aborts silently. A date column is searched at once
     // (the current month).
     void SetOrderFieldIndex(int Index);
+
+    // The same as a click on the title of the next (1) or the previous (-1) column that is shown and can be
+    // searched, going round; nothing when there is no other.
+    void OrderByNeighbour(int Step);
 
     // Takes the column of the dataset's Tag (the index of a field), or the first one.
     void GetOrderField();
@@ -122,6 +130,7 @@ class TFrmGrid_Master : public TFrmBase {
     void TmPesquisaTimer(TComponent* Sender);
     void DpPesq1Change(TComponent* Sender);
     void CbPesquisaChange(TComponent* Sender);
+    void CbPesquisaKeyPress(TComponent* Sender, WideChar& Key);
     void ImgCancelPesqClick(TComponent* Sender);
     void DBGrdEnter(TComponent* Sender);
     virtual void DBGrdTitleClick(TColumn* Column);
@@ -133,7 +142,12 @@ class TFrmGrid_Master : public TFrmBase {
     void Construct() override;
     void WndProc(TMessage& Message) override;
 
-    TDataSet* MainDataSet() const { return MainDS->DataSet(); }
+    // Raises "No dataset linked on data source." without one.
+    TDataSet* MainDataSet() const;
+    // There is a main dataset, and it is open.
+    bool DataIsOpen() const { return MainDS->State() != dsInactive; }
+    // The list or a calendar of the search box is open; Enter and Escape are its own then.
+    bool ListIsOpen() const;
 
     bool FSaveGrid = true;
     bool FColumnMoved = false;
@@ -153,14 +167,18 @@ class TFrmGrid_Master : public TFrmBase {
     UnicodeString FOrderBy;
 
   private:
+    class TOrderLink;
+
     void CreateGrid();
     void CreateSearchPanel();
     void CreateRangePanel();
     void WireSearch();
+    void WatchOrderField();
     void CmdSetMovedOff();
     void ScrollMouse(TMessage& Message);
     void FilterData();
     void LocateInList(const UnicodeString& Value);
+    void SearchEnded();
     void ShowCount();
     void AdjustNumericColumns();
     void ShowTextSearch(TColumn* Column);
@@ -171,4 +189,5 @@ class TFrmGrid_Master : public TFrmBase {
     UnicodeString TypedIn(const TMaskEdit* Edit) const;
 
     TTimer* FTmContagem = nullptr;
+    std::unique_ptr<TDataLink> FOrderLink;
 };

@@ -130,7 +130,7 @@ void TFrmPesq_Master::FormDestroy(TComponent* Sender) {
 }
 
 void TFrmPesq_Master::FormKeyPress(TComponent* Sender, WideChar& Key) {
-    if (Key == VK_ESCAPE || Key == VK_RETURN) {
+    if (!ListIsOpen() && (Key == VK_ESCAPE || Key == VK_RETURN)) {
         const bool cancels = std::exchange(Key, WideChar(0)) == VK_ESCAPE;
         return cancels ? BtnCancelaClick(Sender) : BtnRetornarClick(Sender);
     }
