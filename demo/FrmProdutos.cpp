@@ -52,7 +52,7 @@ void TFrmProdutos::CreateControls() {
 
 void TFrmProdutos::FormCreate(TComponent* Sender) {
     TFrmLista::FormCreate(Sender);
-    CreateButton(u"BtnLocalizar"_s, u"Localizar"_s, u"IMG_LUPA"_s, -1,
+    CreateButton(u"BtnLocalizar"_s, u"Localizar"_s, u"ICO24_PRODUTOS"_s, -1,
                  [this](TComponent*) { GoToProduct(); });
 }
 
@@ -77,9 +77,7 @@ void TFrmCadProduto::CreateQuery() {
         u"SELECT CD_PRO, NM_PRO, REFERENCIA, UNIDADE, VL_VENDA, QT_ESTOQUE, PESO, OBS, TF_DEL\n"
         "FROM PRODUTO"_s);
     LabelProduto(produto);
-    produto->OnNewRecord = [](TDataSet* novo) {
-        novo->FieldByName(u"TF_DEL"_s)->SetAsString(u"N"_s);
-    };
+    produto->OnNewRecord = [](TDataSet* novo) { novo->FieldByName(u"TF_DEL"_s)->SetAsString(u"N"_s); };
     MainDS->SetDataSet(produto);
 }
 
