@@ -20,6 +20,7 @@ double LargestOf(const ColumnInfo& column) {
         case WireKind::Short: return 32767 / unit;
         case WireKind::Long: return 2147483647 / unit;
         case WireKind::Int64: return 9.22337203685477e18 / unit;
+        case WireKind::Float: return 3.40282e38;
         default: return 0;
     }
 }

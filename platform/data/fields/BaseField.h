@@ -25,7 +25,7 @@ class TDataSet;
 struct TFieldDescription {
     TFieldType Type = ftUnknown;
     int Size = 0;              // text: characters; exact decimals: places after the separator; others 0
-    double Largest = 0;        // whole numbers and exact decimals: the greatest amount that fits; others 0
+    double Largest = 0;        // numbers but DOUBLE PRECISION: the greatest amount that fits; others 0
     UnicodeString BaseColumn;  // the column's bare name in its table; empty for an expression
     UnicodeString BaseTable;   // the table it comes from; empty for an expression
     bool Required = false;     // NOT NULL in its table
@@ -50,8 +50,8 @@ class TField : public TComponent {
     TFieldType DataType() const { return FDescription.Type; }
     // Text kinds: characters; exact decimals: decimal places; other kinds 0.
     int Size() const { return FDescription.Size; }
-    // Whole numbers and exact decimals: the greatest amount that the column can hold on either side of 0,
-    // which the server also asks of values compared with it; other kinds 0.
+    // Numbers: the greatest amount that the column can hold on either side of 0, which the server also asks
+    // of values compared with it; DOUBLE PRECISION and other kinds 0.
     double Largest() const { return FDescription.Largest; }
     // The table the column comes from, empty for an expression.
     UnicodeString BaseTable() const { return FDescription.BaseTable; }
