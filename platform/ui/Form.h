@@ -219,6 +219,9 @@ class TForm : public TWidget<QWidget>, public THandlerHost {
     void ApplyWindowFlags();
     void LayFrame();
     void ApplyLimits();
+    void SetSizeLimits();
+    bool HasOneSize() const;
+    void HoldSize();
     void PaintFrame();
     QMargins FrameMargins() const;
     bool Sizeable() const;

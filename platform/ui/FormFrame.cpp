@@ -81,6 +81,7 @@ void TForm::ApplyFrame() {
     } else {
         ApplyWindowFlags();
     }
+    SetSizeLimits();
     const bool bar = FEmbedded && FBorderStyle != bsNone;
     if (!bar) delete std::exchange(FCaptionBar, nullptr);
     if (bar && !FCaptionBar) FCaptionBar = new TCaptionBar(*this, *FDrag);
@@ -129,7 +130,11 @@ void TForm::LayFrame() {
 }
 
 void TForm::SetBounds(int left, int top, int width, int height) {
-    CallQt([&] { Widget()->setGeometry(left, top, std::max(0, width), std::max(0, height)); });
+    CallQt([&] {
+        if (HasOneSize()) SetSizeLimits();
+        Widget()->setGeometry(left, top, std::max(0, width), std::max(0, height));
+        HoldSize();
+    });
     LayFrame();
     SizeChanged();
 }
@@ -169,11 +174,25 @@ void TForm::SetMaxHeight(int height) {
     ApplyLimits();
 }
 
-void TForm::ApplyLimits() {
+void TForm::SetSizeLimits() {
     const auto limit = [](int length) { return length > 0 ? length : QWIDGETSIZE_MAX; };
     const bool small = FEmbedded && FWindowState == wsMinimized;
     setMaximumSize(limit(FMost.width()), limit(FMost.height()));
     setMinimumSize(small ? QSize(0, 0) : FLeast.expandedTo(QSize(0, 0)));
+}
+
+// Window managers offer sizing and maximising even for a dialog's border unless the limits leave one size.
+bool TForm::HasOneSize() const {
+    return !FEmbedded && (FBorderStyle == bsDialog || FBorderStyle == bsToolWindow);
+}
+
+void TForm::HoldSize() {
+    if (HasOneSize()) setFixedSize(size());
+}
+
+void TForm::ApplyLimits() {
+    SetSizeLimits();
+    HoldSize();
     LayFrame();
     SizeChanged();
 }

@@ -38,6 +38,17 @@ TEST_F(FrameTest, SizesAreTheFramesAndLimitsHold) {
     EXPECT_EQ(Form->Height(), 150);
 }
 
+TEST_F(FrameTest, ADialogsWindowHasOneSize) {
+    auto* dialog = NewForm<TTestForm>(u"D"_s, fsNormal);
+    dialog->SetBorderStyle(bsDialog);
+    dialog->SetClientWidth(410);
+    dialog->SetMinHeight(260);
+    for (const QSize& limit : {dialog->minimumSize(), dialog->maximumSize()})
+        EXPECT_EQ(limit, QSize(410, 260));
+    dialog->SetBorderStyle(bsSizeable);
+    EXPECT_EQ(dialog->maximumWidth(), QWIDGETSIZE_MAX);
+}
+
 TEST_F(FrameTest, CentresOverItsOwner) {
     class TOver : public TTestForm {
       public:
