@@ -27,12 +27,16 @@ TControl* ControlAt(QWidget* target) {
     return dynamic_cast<TForm*>(control) ? nullptr : control;
 }
 
+// The menus of the window around the form.
+std::vector<TShortCutSource*> SourcesAround(const TForm& form) {
+    const TForm* main = TActiveForms::Instance().MainForm();
+    return form.Embedded() && main ? main->ShortCutSources() : std::vector<TShortCutSource*>();
+}
+
 // The form's menus first, then those of the window around it.
 std::vector<TShortCutSource*> SourcesFor(const TForm& form) {
     std::vector<TShortCutSource*> sources = form.ShortCutSources();
-    const TForm* main = TActiveForms::Instance().MainForm();
-    if (!form.Embedded() || !main) return sources;
-    const std::vector<TShortCutSource*> around = main->ShortCutSources();
+    const std::vector<TShortCutSource*> around = SourcesAround(form);
     sources.insert(sources.end(), around.begin(), around.end());
     return sources;
 }
@@ -45,11 +49,11 @@ bool RunControlMnemonic(const TControl& container, QChar letter) {
     });
 }
 
+// A letter of the form itself, its controls included, hides that of the window around it.
 bool RunMnemonic(const TForm& form, QChar letter) {
-    for (TShortCutSource* source : SourcesFor(form)) {
-        if (source->RunMnemonic(letter)) return true;
-    }
-    return RunControlMnemonic(form, letter);
+    const auto runs = [letter](TShortCutSource* source) { return source->RunMnemonic(letter); };
+    return std::ranges::any_of(form.ShortCutSources(), runs) || RunControlMnemonic(form, letter) ||
+           std::ranges::any_of(SourcesAround(form), runs);
 }
 
 bool RunMenus(const TForm& form, int key, TShiftState shift) {

@@ -121,6 +121,9 @@ TEST_F(Telas, NameEveryControlAndUseALetterOnce) {
     Main->Identifica();
     Clientes->Filtros1->Click();
     ExpectUsable(Clientes->ChildForm());
+    Press('O', ssAlt);
+    Press('C', ssAlt);  // the dialog's letter, not the main window's
+    EXPECT_EQ(Clientes->ChildForm()->ActiveControl()->Name(), u"LstCampos");
     Press(VK_ESCAPE);
     Settle();
     Press(VK_RETURN);
