@@ -5,7 +5,6 @@
 //     FICHARIO_BENCH_DIR=DIR bench_browse   keeps the databases in DIR for the next run
 //
 // OpenClientes   from the click on the menu to painted rows; wanted: 1 000 000 rows at most 1.2 times 10 000
-// OpenFicha      the registration form of one customer to its first picture
 // Search         from the end of the 200 ms wait to painted rows; `ratio` over the bare query for the first
 //                page, allowed 1.5 after 16 ms are taken off
 // Repaint        the page at a random place of all rows loaded; `ratio` over a table view on a model that
@@ -15,67 +14,22 @@
 // LocateInList   one key typed in list mode that finds nothing, over all rows loaded (allowed: 8 ms)
 #include <benchmark/benchmark.h>
 #include <algorithm>
-#include <QApplication>
 #include <QScrollBar>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <random>
 
 #include "bench/Comparison.h"
 #include "bench/ModeloEmMemoria.h"
 #include "bench/RawClient.h"
-#include "demo/dados/Banco.h"
-#include "demo/DmComercial.h"
+#include "bench/Tela.h"
 #include "demo/FrmClientes.h"
-#include "demo/FrmPrincipal.h"
-#include "platform/system/Paths.h"
-#include "platform/ui/Application.h"
-#include "platform/ui/Palette.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kSmall = 10000;
 constexpr int kFirstPage = 50;
 constexpr double kFrame = 0.016;
-
-int LargeRows() {
-    const int rows = qEnvironmentVariableIntValue("FICHARIO_BENCH_ROWS");
-    return rows > 0 ? rows : 1000000;
-}
-
-struct TScreen {
-    TDM_Comercial* Data;
-    TFrmPrincipal* Main;
-
-    explicit TScreen(const UnicodeString& database) : Data(new TDM_Comercial(Application)) {
-        Data->OpenDatabase(database);
-        Main = NewForm<TFrmPrincipal>(Application, Data);
-        Application->ProcessMessages();
-    }
-    ~TScreen() {
-        Main->Free();
-        Data->Free();
-    }
-    TFrmClientes* Clientes() {
-        Main->OpenClientes();
-        return dynamic_cast<TFrmClientes*>(Main->OpenForms().back());
-    }
-};
-
-QTemporaryDir& Folder() {
-    static QTemporaryDir folder;
-    return folder;
-}
-
-UnicodeString Database(int rows) {
-    const UnicodeString kept = qEnvironmentVariable("FICHARIO_BENCH_DIR");
-    const UnicodeString path =
-        JoinPath(kept.isEmpty() ? Folder().path() : kept, u"clientes-%1.fdb"_s.arg(rows));
-    if (!QFile::exists(path)) CriarBancoDeExemplo(path, rows);
-    return path;
-}
 
 void OpenClientes(benchmark::State& state) {
     TScreen screen(Database(int(state.range(0))));
@@ -87,19 +41,6 @@ void OpenClientes(benchmark::State& state) {
         state.ResumeTiming();
         screen.Main->OpenClientes();
         screen.Main->OpenForms().back()->Widget()->grab();
-    }
-}
-
-void OpenFicha(benchmark::State& state) {
-    TScreen screen(Database(int(state.range(0))));
-    TFrmClientes* clientes = screen.Clientes();
-    for (auto _ : state) {
-        clientes->CreateCad(2);
-        clientes->ChildForm()->Widget()->grab();
-        state.PauseTiming();
-        clientes->ChildForm()->Close();
-        Application->ProcessMessages();
-        state.ResumeTiming();
     }
 }
 
@@ -215,11 +156,7 @@ void Register(const char* name, void (*bench)(benchmark::State&), int iterations
 }  // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    ApplyLooks(app);
-    SetProgramFolder(Folder().path());
-    TApplication application;
+    const TBenchProgram program(argc, argv);
     // The two sizes take turns, so that what else the machine does meets both.
     benchmark::RegisterBenchmark("OpenClientes", OpenClientes)
         ->Arg(kSmall)
@@ -228,7 +165,6 @@ int main(int argc, char** argv) {
         ->Iterations(20)
         ->Repetitions(5)
         ->ReportAggregatesOnly(true);
-    Register("OpenFicha", OpenFicha, 20, false);
     Register("Search", Search, 40, true);
     Register("Repaint", Repaint, 200, true);
     Register("LoadList", LoadList, 15, true);
