@@ -61,7 +61,7 @@ void TFrmPedidos::CreateControls() {
     DBGrd->AddColumn(u"CD_PED"_s, u"Número"_s, 70);
     DBGrd->AddColumn(u"DT_PED"_s, u"Data"_s, 85);
     DBGrd->AddColumn(u"NM_CLI"_s, u"Cliente"_s, 300);
-    DBGrd->AddColumn(u"NM_VEN"_s, u"Vendedor"_s, 200);
+    DBGrd->AddColumn(u"NM_VEN"_s, u"Vendedor"_s, 190);
     DBGrd->AddColumn(u"VL_TOTAL"_s, u"Total"_s, 110);
 }
 
