@@ -65,8 +65,9 @@ Currency TFrmPreco::Preco() const {
 
 void TFrmPreco::ShowPrice() {
     if (!FPreco) return;
-    const bool leaves = Preco() > Currency();
-    FPreco->SetFontColor(leaves || Lido(FCusto) == Currency() ? Cores::Dica : Cores::Erro);
+    const bool typed = Lido(FCusto) > Currency(), leaves = Preco() > Currency();
+    FPreco->SetFontColor(!typed || leaves ? Cores::Dica : Cores::Erro);
+    if (!typed) return FPreco->SetCaption(u"Digite o custo e os percentuais que o preço cobre."_s);
     UnicodeString text = leaves ? u"Preço de venda: R$ "_s + ValorEmAlgarismos(Preco())
                                 : u"O custo e os percentuais não deixam preço."_s;
     if (FAtual > Currency()) {

@@ -60,10 +60,10 @@ class TTour {
         OrderBy(u"TF_ATIVO"_s);
         Shoot(u"08-clientes-lista-de-valores"_s);
         OrderBy(u"NM_CLI"_s);
-        Clientes()->ExibirRegistrosExcludos1Click(nullptr);
+        Clientes()->ExibirRegistrosExcludos1->Click();
         Clientes()->MainDS->DataSet()->Locate(u"TF_DEL"_s, u"S"_s);
         Shoot(u"09-clientes-excluidos"_s);
-        Clientes()->ExibirRegistrosExcludos1Click(nullptr);
+        Clientes()->ExibirRegistrosExcludos1->Click();
     }
 
     void Filters() {
@@ -114,6 +114,8 @@ class TTour {
         products->CreateCad(2);
         Shoot(u"27-produto-alterando"_s);
         auto* form = dynamic_cast<TFrmCad_Master*>(products->ChildForm());
+        ShootModal({u"36-calcular-preco"_s},
+                   [form] { dynamic_cast<TButton*>(form->FindComponent(u"BtnVL_VENDA"_s))->Click(); });
         form->BtnTabSet->SetTabIndex(1);
         form->MainDS->DataSet()->FieldByName(u"OBS"_s)->SetAsString(kTextoRico);
         Shoot(u"28-produto-texto-rico"_s);
