@@ -81,7 +81,7 @@ function(fichario_discover name prefix)
 endfunction()
 
 # One executable of tests; every test has a time limit and runs without a screen. WIDGETS links the main that starts
-# the screen side, LOCALES runs the same tests once more under pt_BR.UTF-8, SERVER once more on a private server
+# the screen side and runs under the locale of those who sit at screens, LOCALES runs the same tests once more under pt_BR.UTF-8, SERVER once more on a private server
 # (tests/servidor), which is started before the first of them and stopped after the last.
 function(fichario_test name)
   cmake_parse_arguments(TEST "WIDGETS;LOCALES;SERVER" "SECONDS" "SOURCES;USES;LINK" ${ARGN})
@@ -98,7 +98,11 @@ function(fichario_test name)
   endif()
   target_link_libraries(${name} PRIVATE GTest::gtest ${TEST_LINK})
   include(GoogleTest)
-  fichario_discover(${name} "" LC_ALL=C)
+  if(TEST_WIDGETS)
+    fichario_discover(${name} "" LC_ALL=pt_BR.UTF-8)
+  else()
+    fichario_discover(${name} "" LC_ALL=C)
+  endif()
   if(TEST_LOCALES)
     fichario_discover(${name} "pt_BR/" LC_ALL=pt_BR.UTF-8)
   endif()

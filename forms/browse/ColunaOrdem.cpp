@@ -11,10 +11,6 @@ namespace {
 
 const UnicodeString kOrderMark = u"»"_s;
 
-bool CanSearch(const TColumn* column) {
-    return !column->Field() || column->Field()->Origin() != u"#0";
-}
-
 }  // namespace
 
 // Keeps the ordering field that of its column: a statement with other columns makes other fields, and the
@@ -55,13 +51,18 @@ void TFrmGrid_Master::GetOrderField() {
     SetOrderFieldIndex(index);
 }
 
+bool TFrmGrid_Master::CanOrderBy(int Index) const {
+    const TField* field = DBGrd->Columns()[Index]->Field();
+    return !field || field->Origin() != u"#0";
+}
+
 void TFrmGrid_Master::SetOrderFieldIndex(int Index) {
     if (Index < 0 || Index >= DBGrd->Columns().Count()) {
         throw Exception(
             u"Você precisa definir qual campo de ordem padrão. Informe o campo na propriedade \"Tag\" do DataSet principal."_s);
     }
     TColumn* column = DBGrd->Columns()[Index];
-    if (!CanSearch(column)) Abort();
+    if (!CanOrderBy(Index)) Abort();
     if (FOrderFieldIndex >= 0 && FOrderFieldIndex < DBGrd->Columns().Count()) {
         DBGrd->Columns()[FOrderFieldIndex]->Title().SetCaption(FOrderDesc);
     }
@@ -84,8 +85,9 @@ void TFrmGrid_Master::SetOrderFieldIndex(int Index) {
 void TFrmGrid_Master::OrderByNeighbour(int Step) {
     const int count = DBGrd->Columns().Count();
     for (int i = 1; i < count; ++i) {
-        TColumn* column = DBGrd->Columns()[(FOrderFieldIndex + (Step > 0 ? i : count - i)) % count];
-        if (!column->Visible() || !CanSearch(column)) continue;
+        const int index = (FOrderFieldIndex + (Step > 0 ? i : count - i)) % count;
+        TColumn* column = DBGrd->Columns()[index];
+        if (!column->Visible() || !CanOrderBy(index)) continue;
         DBGrd->SetFocus();
         if (DBGrd->OnTitleClick) DBGrd->OnTitleClick(column);
         return;

@@ -93,6 +93,8 @@ class TFrmGrid_Master : public TFrmBase {
     TField* OrderField() const { return FOrderField; }
     int RecordCount() const { return FRecordCount; }
     int OrderFieldIndex() const { return FOrderFieldIndex; }
+    // Whether records can be searched for in a column: its field's origin is not "#0".
+    bool CanOrderBy(int Index) const;
     const UnicodeString& Where() const { return FWhere; }
     void SetWhere(const UnicodeString& where) { FWhere = where; }
     const UnicodeString& OrderBy() const { return FOrderBy; }

@@ -135,7 +135,7 @@ bool LoadGridColumns(TFrmGrid_Master& form, TPickLists& pickLists) {
 int StoredOrderColumn(TFrmGrid_Master& form) {
     const UnicodeString stored = form.GetStrWindowProp(u"OrderField"_s, {});
     for (int i = 0; i < form.DBGrd->Columns().Count(); ++i) {
-        if (UpperText(form.DBGrd->Columns()[i]->FieldName()) == stored) return i;
+        if (UpperText(form.DBGrd->Columns()[i]->FieldName()) == stored) return form.CanOrderBy(i) ? i : -1;
     }
     return -1;
 }

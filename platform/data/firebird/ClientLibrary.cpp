@@ -1,5 +1,6 @@
 #include "platform/data/firebird/ClientLibrary.h"
 
+#include <clocale>
 #include <csignal>
 #include <QDir>
 #include <QStandardPaths>
@@ -24,6 +25,7 @@ int RefuseSignals(const int reason, const int, void*) {
 
 Firebird::IMaster* MakeReady() {
     ChooseLockFolder();
+    std::setlocale(LC_NUMERIC, "C");
     ISC_STATUS_ARRAY status = {};
     fb_shutdown_callback(status, RefuseSignals, fb_shut_confirmation, nullptr);
     return Firebird::fb_get_master_interface();

@@ -72,6 +72,10 @@ void TFrmTesteClientes::CreateControls() {
     TFrmViz_Master::CreateControls();
     Query = CustomerQuery(this, FCaso);
     Query->SetTag(1);
+    if (!FCaso.NotSearched.isEmpty()) {
+        Query->DescribeFields();
+        Query->FieldByName(FCaso.NotSearched)->SetOrigin(u"#0"_s);
+    }
     MainDS->SetDataSet(Query);
     DBGrd->AddColumn(u"ID_CLI"_s, u"Código"_s, 80);
     DBGrd->AddColumn(u"NM_CLI"_s, u"Nome"_s, 260);

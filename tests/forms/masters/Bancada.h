@@ -25,6 +25,7 @@ struct TCaso {
     TDados Dados = PropriaConsulta;
     bool ReadOnly = false;      // no registration form
     bool SelectDeleted = true;  // the queries have TF_DEL
+    UnicodeString NotSearched;  // a field of the list whose origin is "#0"
 };
 
 class TFrmTesteCliente : public TFrmCad_Master {

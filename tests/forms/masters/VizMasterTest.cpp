@@ -40,6 +40,7 @@ TEST_F(VizMaster, OpensFormsAndKeepsItsLooks) {
          {u"Store"_s, Does([&](const A& a) {
               TIniFile(Folder.filePath(u"Temp/1ws.dat"_s)).WriteString(u"TFrmTesteClientes"_s, a[0], a[1]);
           })},
+         {u"NotSearched"_s, Does([&](const A& a) { Caso.NotSearched = a[0]; })},
          {u"GoTo"_s, Does([&](const A& a) {
               Module.ResearchFields = a[0];
               Module.ResearchValues = a[1];
