@@ -5,6 +5,7 @@
 #include "platform/data/firebird/FbErrors.h"
 #include "platform/data/firebird/SqlRunner.h"
 #include "platform/data/ParamScanner.h"
+#include "platform/data/PreparedQuery.h"
 #include "platform/data/Query.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -57,6 +58,16 @@ std::vector<InputValue> InputsFor(const ScannedSql& sql, const std::vector<Varia
     std::vector<InputValue> inputs;
     for (const int place : sql.Places) inputs.emplace_back(values[static_cast<size_t>(place)]);
     return inputs;
+}
+
+// The first column of the first row, null without one.
+Variant FirstValue(Attachment& attachment, const RowStore& rows, bool wide) {
+    if (rows.Count() == 0) return Variant::Null();
+    const Variant value = rows.Value(0, 0);
+    const TFieldType type = rows.Layout().Type(0);
+    if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
+    const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), value.ToInt64(), wide);
+    return type == ftBlob ? Variant(bytes) : Variant(DecodeText(rows.Layout().Encoding(0), bytes));
 }
 
 }  // namespace
@@ -143,14 +154,17 @@ int TFDCustomConnection::ExecSQL(const UnicodeString& sql, const std::vector<Var
     return static_cast<int>(ExecuteSql(*RequireAttachment(), scanned.Text, InputsFor(scanned, values)));
 }
 
+// A stored character that the connection's set lacks fails its whole row: then it is read as UTF-8.
 Variant TFDCustomConnection::ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values) {
     const ScannedSql scanned = ScanParams(sql);
     const std::shared_ptr<Attachment> attachment = RequireAttachment();
-    const RowStore rows = ReadRows(*attachment, scanned.Text, InputsFor(scanned, values));
-    if (rows.Count() == 0) return Variant::Null();
-    const Variant value = rows.Value(0, 0);
-    const TFieldType type = rows.Layout().Type(0);
-    if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
-    const QByteArray bytes = ReadBlob(*attachment, *attachment->Reading(), value.ToInt64());
-    return type == ftBlob ? Variant(bytes) : Variant(DecodeText(rows.Layout().Encoding(0), bytes));
+    const std::vector<InputValue> inputs = InputsFor(scanned, values);
+    try {
+        return FirstValue(*attachment, ReadRows(*attachment, scanned.Text, inputs, nullptr, 1), false);
+    } catch (const EFDError& error) {
+        if (!error.Has(kTransliteration)) throw;
+        PreparedQuery wide(attachment, sql);
+        if (!wide.Widen()) throw;
+        return FirstValue(*attachment, wide.Read(wide.Sql().Text, inputs), true);
+    }
 }

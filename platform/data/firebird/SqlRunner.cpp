@@ -1,6 +1,5 @@
 #include "platform/data/firebird/SqlRunner.h"
 
-#include <limits>
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/firebird/WideText.h"
@@ -8,13 +7,12 @@
 namespace fichario {
 
 RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
-                  const ColumnList* wide) {
+                  const ColumnList* wide, int most) {
     StatementLease statement = attachment.Prepare(sql);
     RowStore rows{RowLayout(wide ? WideColumns(*wide, statement->Columns()) : statement->Columns())};
     InputMessage input(attachment, statement->Inputs(), values);
     if (input.Misfit()) return rows;
-    Cursor(attachment.shared_from_this(), std::move(statement), attachment.Reading(), input, rows,
-           std::numeric_limits<int>::max());
+    Cursor(attachment.shared_from_this(), std::move(statement), attachment.Reading(), input, rows, most);
     return rows;
 }
 
