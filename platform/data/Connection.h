@@ -37,9 +37,8 @@ class TFDCustomConnection : public TComponent {
     //                  (a name that begins with / takes \ for /, and \name is an alias)
     //   User_Name, Password, RoleName
     //   ConnectTimeout seconds until a server must have answered; 10 at first
-    //   StatementTimeout  seconds that one call of a statement (its execution, the fetch of a batch of rows),
-    //   or
-    //                  a commit, may take before it is broken off; 600 at first, 0: any time
+    //   StatementTimeout  seconds that one call of a statement (its execution, the fetch of a batch of
+    //                  rows), or a commit, may take before it is broken off; 600 at first, 0: any time
     //   CharacterSet   ISO8859_1 (at first; the bytes are taken as Windows-1252), UTF8, WIN1252 or NONE
     //   PageSize       of a database that CreateDatabase makes: 4096, 8192 or 16384
     //   ForcedWrites   False: a database that CreateDatabase makes leaves writing to the system's cache
@@ -80,12 +79,12 @@ class TFDCustomConnection : public TComponent {
 
   private:
     friend class TFDDataSet;
+    friend class fichario::TogetherSave;
     void CloseDataSets();
     void EndTransaction(bool commit);
 
     TStringList FParams;
     std::shared_ptr<fichario::Attachment> FAttachment;
-    friend class fichario::TogetherSave;
     std::vector<TFDDataSet*> FDataSets;
 };
 

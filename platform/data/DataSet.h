@@ -86,7 +86,8 @@ class TDataSet : public TComponent {
     // The bytes that the rows here hold.
     size_t MemoryUsed() const;
     // Brings all rows and writes them into a file, in place of an old one, in the format that RowsFile.h
-    // tells. A pending edit is left alone and not in it. EDatabaseError when not active, EInOutError.
+    // tells. A pending edit is left alone and not in it. EDatabaseError when not active, EUnreadableText,
+    // EInOutError.
     void SaveToFile(const UnicodeString& path);
 
     // A call to a server is under way, of whichever dataset, and the program paints meanwhile: rows must not

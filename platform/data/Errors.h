@@ -44,9 +44,9 @@ class EFDError : public EDatabaseError {
     EFDError Saying(const UnicodeString& message) const;
 
     UnicodeString ServerText;  // the server's own text, several lines
-    UnicodeString
-        Constraint;          // the violated constraint's, index's or column's name; empty when none was named
-    UnicodeString SqlState;  // five characters, such as 23000
+    // The violated constraint's, index's or column's name; empty when none was named.
+    UnicodeString Constraint;
+    UnicodeString SqlState;        // five characters, such as 23000
     bool ConnectionUsable = true;  // false: the connection is lost and must be opened anew
 
   private:

@@ -100,8 +100,7 @@ bool PreparedQuery::IsOf(const ColumnInfo& column, const UnicodeString& table) c
 TFieldDescription PreparedQuery::Describe(const ColumnInfo& column, const UnicodeString& table) const {
     TFieldDescription description;
     description.Type = FieldTypeOf(column);
-    const bool text = column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
-    description.Size = text ? column.Characters : column.Scale;
+    description.Size = IsText(column.Kind) ? column.Characters : column.Scale;
     description.Largest = LargestOf(column);
     description.BaseColumn = column.BaseColumn;
     description.BaseTable = column.BaseTable;

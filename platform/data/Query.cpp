@@ -49,15 +49,15 @@ void TFDCustomQuery::SQLChanged() {
     FParams.SetNames(ScanParams(FSQL.Text()).Names);
 }
 
+// When it cannot be prepared anew, what is known of the statement before stays: rows of it may be here.
 PreparedQuery& TFDCustomQuery::RequirePrepared() {
     const std::shared_ptr<Attachment> attachment = RequireConnection().RequireAttachment();
     if (!FPrepared || FPrepared->On() != attachment) {
-        const bool wide = FPrepared && FPrepared->IsWide();
-        FPrepared.reset();
-        FPrepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
+        auto prepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
+        if (FPrepared && FPrepared->IsWide()) prepared->Widen();
+        FPrepared = std::move(prepared);
         FColumnsVersion = -1;
         FFits = false;
-        if (wide) FPrepared->Widen();
     }
     return *FPrepared;
 }

@@ -41,17 +41,16 @@ std::vector<Variant> TFDCustomQuery::ValuesOf(int row) const {
 // ---- keeping back ----
 
 void TFDCustomQuery::LogPost() {
-    std::vector<Variant> values = ValuesOf(CurrentRow());
+    std::vector<Variant> before = ValuesOf(CurrentRow()), values = before;
     for (int i = 0; i < FieldCount(); ++i) {
-        if (!Rows().Layout().IsBlob(i)) {
-            values[static_cast<size_t>(i)] = EditedValue(i);
-        } else if (IsChanged(i)) {
+        if (Rows().Layout().IsBlob(i) && IsChanged(i)) {
             throw EDatabaseError(
                 u"Cached updates cannot change the blob '%1'"_s.arg(FieldOfColumn(i)->FieldName()));
         }
+        const Variant* assigned = Rows().Layout().IsBlob(i) ? nullptr : Assigned(i);
+        if (assigned) values[static_cast<size_t>(i)] = *assigned;
     }
     const uint64_t from = Rows().Address(CurrentRow());
-    std::vector<Variant> before = ValuesOf(CurrentRow());
     Rows().SetValues(CurrentRow(), values);
     const uint64_t to = Rows().Address(CurrentRow());
     if (State() == dsInsert) return FLog->TakeInserted(to);
@@ -98,7 +97,7 @@ void TFDCustomQuery::WritePending(int row) {
     bool some = pending.New;
     for (WriteColumn& column : columns) {
         column.Value = Rows().ValueOrBytes(row, column.Column);
-        if (!pending.New) column.OldValue = pending.Before[static_cast<size_t>(column.Column)];
+        column.OldValue = pending.New ? Variant() : pending.Before[static_cast<size_t>(column.Column)];
         column.Write = column.CanWrite && column.Value != column.OldValue;
         some = some || column.Write;
     }

@@ -271,7 +271,8 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) co
 void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns,
                                 const RowStore& written) const {
     static const Variant null = Variant::Null();
-    std::vector<Variant> read = State() == dsInsert ? std::vector<Variant>() : ValuesOf(row);
+    const bool isNew = State() == dsInsert && row == CurrentRow();
+    const std::vector<Variant> read = isNew ? std::vector<Variant>() : ValuesOf(row);
     std::vector<const Variant*> values(static_cast<size_t>(FieldCount()), &null);
     for (size_t i = 0; i < read.size(); ++i) values[i] = &read[i];
     for (const WriteColumn& column : columns) {

@@ -1,5 +1,6 @@
 #include "platform/data/RowsFile.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #include "platform/data/DataSet.h"
@@ -117,7 +118,6 @@ void TRowsReader::ReadHead() {
     FStream >> version >> rows >> columns;
     if (version > kVersion)
         throw Exception(u"O arquivo '%1' foi gravado por uma versão mais nova do programa."_s.arg(FPath));
-    Require(rows >= 0);
     FRows = rows;
     for (int i = 0; i < columns; ++i) {
         const UnicodeString name = QString::fromUtf8(ReadBytes());
@@ -128,6 +128,8 @@ void TRowsReader::ReadHead() {
         Require(FColumns.back().Type != ftUnknown);
     }
     FStart = FFile.pos();
+    const int64_t least = std::max(1, (columns + 7) / 8);  // bytes of a row
+    Require(rows >= 0 && rows <= FSize / least);
 }
 
 void TRowsReader::First() {
@@ -205,11 +207,12 @@ void TDataSet::SaveToFile(const UnicodeString& path) {
     std::vector<TRowsColumn> columns;
     for (const TField* field : FFields)
         columns.push_back({field->FieldName(), field->DataType(), field->Size()});
-    TRowsWriter writer(path, std::move(columns), RowCount());
+    const int typed = FState == dsInsert ? FRow : -1;
+    TRowsWriter writer(path, std::move(columns), RowCount() - (typed >= 0 ? 1 : 0));
     std::vector<Variant> values(FFields.size());
     for (int row = 0; row < RowCount(); ++row) {
-        const TRowReading reading(this, row);
-        for (size_t i = 0; i < values.size(); ++i) values[i] = FFields[i]->Value();
+        if (row == typed) continue;
+        for (size_t i = 0; i < values.size(); ++i) values[i] = RowValue(row, static_cast<int>(i));
         writer.Add(values);
     }
     writer.Finish();

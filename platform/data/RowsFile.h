@@ -24,7 +24,6 @@
 //     X       bytes                                 length (32 bits) and bytes
 #pragma once
 
-#include <memory>
 #include <QDataStream>
 #include <QFile>
 #include <vector>

@@ -193,7 +193,7 @@ StatementLease Attachment::Prepare(const UnicodeString& sql) {
 }
 
 void Attachment::GiveBack(std::unique_ptr<Statement> statement) {
-    if (!FUsable) return;
+    if (!FUsable || !statement->IsCurrent()) return;
     const auto same = [&](const auto& idle) { return idle->Sql() == statement->Sql(); };
     if (std::any_of(FIdle.begin(), FIdle.end(), same)) return;
     if (FIdle.size() >= kIdleStatements) FIdle.erase(FIdle.begin());
@@ -201,6 +201,7 @@ void Attachment::GiveBack(std::unique_ptr<Statement> statement) {
 }
 
 void Attachment::Forget() {
+    ++FDefinitions;
     FIdle.clear();
     FTables.reset();
 }

@@ -4,7 +4,6 @@
 //     auto attachment = Attachment::Attach(settings);
 //     StatementLease statement = attachment->Prepare(u"SELECT * FROM T"_s);
 #pragma once
-#include <map>
 #include <memory>
 #include <vector>
 #include "platform/data/firebird/ClientCall.h"
@@ -67,7 +66,10 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     // The statement prepared, taken from those prepared before when it is there and not in use.
     StatementLease Prepare(const UnicodeString& sql);
     // Drops the prepared statements not in use and what is known of tables: before a definition changes.
+    // Those in use are not used again.
     void Forget();
+    // How often that was.
+    int Definitions() const { return FDefinitions; }
     Metadata& Tables();
 
   private:
@@ -82,6 +84,7 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     TextEncoding FEncoding;
     unsigned FCharacterSet;
     bool FUsable = true;
+    int FDefinitions = 0;
     std::shared_ptr<Transaction> FRead, FHost;
     std::vector<std::unique_ptr<Statement>> FIdle;  // oldest first
     std::unique_ptr<Metadata> FTables;

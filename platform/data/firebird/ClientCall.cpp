@@ -166,7 +166,8 @@ void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const Cal
     const auto free = qScopeGuard([] { g_running = false; });
     g_running = true;
     g_stop.store(false, std::memory_order_relaxed);
-    limit.Local&& IsShort(kind) ? RunShort(encoding, body) : RunWatched(kind, encoding, body, limit);
+    if (limit.Local && IsShort(kind)) return RunShort(encoding, body);
+    RunWatched(kind, encoding, body, limit);
 }
 
 bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit) noexcept {

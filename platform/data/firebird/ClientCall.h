@@ -35,18 +35,17 @@ struct CallLimit {
 };
 
 // Runs `body` with a status of its own on the service thread, and waits for it as the screen does; what is
-// short on an engine in this process runs at once. `encoding`
-// is that of the server's texts. Escape breaks off a statement, the limit also a commit; a server that does
-// not even answer to that loses the connection. A call out of such a wait, which only painting can make, is
-// refused by a silent abort. EFDError.
+// short on an engine in this process runs at once. `encoding` is that of the server's texts. Escape breaks
+// off a statement, the limit also a commit; a server that does not even answer to that loses the connection.
+// A call out of such a wait, which only painting can make, is refused by a silent abort. EFDError.
 void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit = {});
+
+// The same for endings: true when `body` ran without an error; nothing is thrown.
+bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {}) noexcept;
 
 // For a body of many steps, before each: ends the call as a cancelled statement when it is to be broken off.
 // The client cancels only the one step that is running.
 void StopIfAsked();
-
-// The same for endings: true when `body` ran without an error; nothing is thrown.
-bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {}) noexcept;
 
 // A call is under way on the service thread, where rows may be growing: nobody may read rows until it ends.
 bool ClientCallRunning();

@@ -23,12 +23,16 @@ enum class WireKind : uint8_t {
     NullTest  // a parameter of which only null or not counts
 };
 
+constexpr bool IsText(WireKind kind) {
+    return kind == WireKind::Text || kind == WireKind::Varying;
+}
+
 struct ColumnInfo {
     UnicodeString Name;        // the name it goes by in the result
     UnicodeString BaseColumn;  // empty for an expression
     UnicodeString BaseTable;
-    UnicodeString
-        BaseAlias;  // the name under which the statement speaks of the base table; empty when unknown
+    // The name under which the statement speaks of the base table; empty when unknown.
+    UnicodeString BaseAlias;
     WireKind Kind = WireKind::Long;
     int SubType = 0;      // blobs: 1 is text; numbers: 1 and 2 are exact decimals
     int Scale = 0;        // decimal places

@@ -58,8 +58,7 @@ ColumnList ColumnsOf(Firebird::ThrowStatusWrapper& status, Firebird::IMessageMet
         column.NullOffset = format.getNullOffset(&status, i);
         column.Encoding = attachment.Encoding();
         column.CharacterSet = format.getCharSet(&status, i);
-        const bool isText = column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
-        if (isText) DescribeText(column);
+        if (IsText(column.Kind)) DescribeText(column);
     }
     return columns;
 }

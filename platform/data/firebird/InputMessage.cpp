@@ -42,10 +42,6 @@ qsizetype CharactersIn(QStringView text) {
     return std::count_if(text.begin(), text.end(), [](QChar c) { return !c.isLowSurrogate(); });
 }
 
-bool IsText(const ColumnInfo& column) {
-    return column.Kind == WireKind::Text || column.Kind == WireKind::Varying;
-}
-
 }  // namespace
 
 InputMessage::InputMessage(Attachment& attachment, const ColumnList& described,
@@ -66,22 +62,22 @@ InputMessage::~InputMessage() {
 
 InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& described,
                                           const UnicodeString& text) {
-    const TextEncoding encoding = IsText(described) ? described.Encoding : FAttachment.Encoding();
+    const TextEncoding encoding = IsText(described.Kind) ? described.Encoding : FAttachment.Encoding();
     const std::optional<QByteArray> bytes = EncodeText(encoding, text);
     const bool blob = described.Kind == WireKind::Blob;
-    const bool tooLong = IsText(described) && CharactersIn(text) > described.Characters;
+    const bool tooLong = IsText(described.Kind) && CharactersIn(text) > described.Characters;
     if (!bytes) {
         FMisfit = fichario::Misfit{place, FirstForeign(encoding, text), 0};
     } else if (tooLong || (!blob && bytes->size() > kLongestText)) {
         FMisfit = fichario::Misfit{
-            place, {}, IsText(described) ? described.Characters : static_cast<int>(kLongestText)};
+            place, {}, IsText(described.Kind) ? described.Characters : static_cast<int>(kLongestText)};
     } else if (described.Kind == WireKind::NullTest) {
         return Part::Of(0, {});
     } else if (blob && bytes->size() > kLongestText) {
         return Part::OfBlob(*bytes);
     } else {
         Part part = Part::Of(SQL_VARYING, Counted(*bytes));
-        part.Foreign = !IsText(described);
+        part.Foreign = !IsText(described.Kind);
         return part;
     }
     return {};

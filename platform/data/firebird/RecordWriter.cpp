@@ -81,7 +81,7 @@ int64_t RecordWriter::NamingFields(Run run) const {
 }
 
 int64_t RecordWriter::Execute(WriteWork& work, RowStore* returned) {
-    if (!work.Prepared) work.Prepared = FAttachment.Prepare(work.Sql);
+    if (!work.Prepared || !work.Prepared->IsCurrent()) work.Prepared = FAttachment.Prepare(work.Sql);
     Statement& statement = *work.Prepared;
     InputMessage input(FAttachment, statement.Inputs(), work.Values);
     if (const auto& misfit = input.Misfit()) RefuseMisfit(*misfit, work.Places[misfit->Place]->Label);

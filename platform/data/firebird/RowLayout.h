@@ -28,8 +28,8 @@ class RowLayout {
     uint8_t* Pack(const uint8_t* message, uint8_t* row) const;
     // Writes a row whose columns are all null.
     uint8_t* PackNull(uint8_t* row) const;
-    // Packs values as ValueOrBytes gives them, one for each column; a text that is too long or foreign is cut
-    // or null.
+    // Packs values as ValueOrBytes gives them, one for each column; a text that is too long is cut, a foreign
+    // one empty.
     uint8_t* PackValues(std::span<const Variant* const> values, uint8_t* row) const;
     // The length of a packed row.
     size_t Bytes(const uint8_t* row) const;
@@ -68,7 +68,7 @@ class RowLayout {
         uint32_t NullOffset;
         uint32_t Length;  // CHAR: bytes in the message
         uint32_t Packed;  // fixed: place in the packed row; text: how many texts stand before it
-        bool IsText() const { return Kind == WireKind::Text || Kind == WireKind::Varying; }
+        bool IsText() const { return fichario::IsText(Kind); }
         bool operator==(const Place&) const = default;
     };
 

@@ -4,13 +4,15 @@
 #include "platform/data/firebird/Describe.h"
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/InputMessage.h"
+#include "platform/data/firebird/Misfits.h"
 #include "platform/data/firebird/RowStore.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace fichario {
 
-Statement::Statement(Attachment& attachment, const UnicodeString& sql) : FAttachment(attachment), FSql(sql) {
+Statement::Statement(Attachment& attachment, const UnicodeString& sql)
+    : FAttachment(attachment), FSql(sql), FDefinitions(attachment.Definitions()) {
     Prepare();
     try {
         Describe();
@@ -22,10 +24,7 @@ Statement::Statement(Attachment& attachment, const UnicodeString& sql) : FAttach
 
 void Statement::Prepare() {
     const std::optional<QByteArray> text = EncodeText(FAttachment.Encoding(), FSql);
-    if (!text) {
-        const UnicodeString foreign = FirstForeign(FAttachment.Encoding(), FSql);
-        throw EDatabaseError(u"Caractere não permitido: “%1”."_s.arg(foreign));
-    }
+    if (!text) RefuseMisfit({0, FirstForeign(FAttachment.Encoding(), FSql), 0}, {});
     const std::shared_ptr<Transaction> transaction = FAttachment.Reading();
     FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
         FHandle = FAttachment.Handle()->prepare(

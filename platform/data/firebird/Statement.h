@@ -31,6 +31,8 @@ class Statement {
     const UnicodeString& Sql() const { return FSql; }
     // Gives rows one after the other, to be read by a cursor.
     bool HasCursor() const { return FHasCursor; }
+    // No definition has changed over this connection since it was prepared.
+    bool IsCurrent() const { return FDefinitions == FAttachment.Definitions(); }
     // Changes the definition of something in the database.
     bool IsDefinition() const;
     const ColumnList& Columns() const { return FColumns; }
@@ -56,6 +58,7 @@ class Statement {
 
     Attachment& FAttachment;
     UnicodeString FSql;
+    int FDefinitions;
     Firebird::IStatement* FHandle = nullptr;
     Firebird::IMessageMetadata* FInputFormat = nullptr;
     Firebird::IMessageMetadata* FRowFormat = nullptr;
