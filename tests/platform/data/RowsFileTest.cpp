@@ -32,7 +32,14 @@ void ReadAll(const UnicodeString& path) {
 TEST_F(DataTest, RowsComeBackFromTheirFile) {
     TFDQuery* query = Open(kRows);
     const UnicodeString path = InFolder(u"linhas.dat"_s);
+    query->Append();  // what is only typed stays out
     query->SaveToFile(path);
+    query->Cancel();
+    EXPECT_EQ(TRowsReader(path).Rows(), 2);
+    query->Edit();
+    query->Fields()[0]->SetAsString(u"digitado"_s);
+    query->SaveToFile(path);
+    query->Cancel();
     TRowsReader reader(path);
     EXPECT_EQ(reader.Rows(), 2);
     std::vector<Variant> row;
@@ -61,6 +68,8 @@ TEST_F(DataTest, OnlyWholeFilesOfRowsAreRead) {
     }
     WriteWholeFile(path, QByteArray(whole).replace(8, 1, "\x02"));
     EXPECT_TRUE(MessageOf([&] { ReadAll(path); }).contains(u"versão mais nova"_s));
+    WriteWholeFile(path, QByteArray(whole).replace(10, 8, "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"));
+    EXPECT_NE(MessageOf([&] { TRowsReader{path}; }), u""_s) << "more rows than it can hold";
     const auto restore = qScopeGuard([] { SetFileFailure(nullptr); });
     SetFileFailure([](auto&, TFileOperation) { return std::optional(ENOSPC); });
     EXPECT_TRUE(MessageOf([&] { query->SaveToFile(path); }).contains(u"disco cheio"_s));

@@ -75,6 +75,13 @@ TEST_F(Unreadable, BytesThatAreNoTextAreAnErrorOfTheirFieldAlone) {
     Exec(u"UPDATE SINAIS SET B = 'ç' WHERE ID = 3"_s);
     Patch("QXKWZJVY", "QXKW\xE7JVY");
     TFDConnection* connection = Connect(u"UTF8"_s);
+    TFDQuery* kept = Query(u"SELECT ID, U, L FROM SINAIS WHERE ID = 2"_s, connection);
+    kept->SetCachedUpdates(true);
+    kept->Open();
+    kept->Edit();
+    kept->FieldByName(u"L"_s)->SetAsString(u"guardado"_s);
+    EXPECT_EQ(MessageOf([&] { kept->ApplyUpdates(); }), u"");
+    kept->Free();
     TFDQuery* query = Open(u"SELECT ID, U, L, B FROM SINAIS ORDER BY ID"_s, connection);
     TField *text = query->FieldByName(u"U"_s), *memo = query->FieldByName(u"B"_s);
     text->SetDisplayLabel(u"Nome"_s);
