@@ -3,14 +3,16 @@
 #include <algorithm>
 #include "platform/data/DataSet.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 constexpr int kLeastWidth = 8;
 }
 
 UnicodeString TColumnTitle::Caption() const {
-    if (FCaption) return *FCaption;
     const TField* field = FColumn.Field();
-    return field ? field->DisplayLabel() : FColumn.FieldName();
+    UnicodeString caption = FCaption ? *FCaption : field ? field->DisplayLabel() : FColumn.FieldName();
+    return caption.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
 }
 
 void TColumnTitle::SetCaption(const UnicodeString& caption) {

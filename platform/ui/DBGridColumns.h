@@ -28,7 +28,8 @@ class TColumnsHost {
 
 class TColumnTitle {
   public:
-    // What was set; before that the field's display label, or the field's name without a field.
+    // What was set; before that the field's display label, or the field's name without a field. One line: breaks
+    // are blanks.
     UnicodeString Caption() const;
     void SetCaption(const UnicodeString& caption);
 
