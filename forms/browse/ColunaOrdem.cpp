@@ -66,11 +66,8 @@ void TFrmGrid_Master::SetOrderFieldIndex(int Index) {
     if (FOrderFieldIndex >= 0 && FOrderFieldIndex < DBGrd->Columns().Count()) {
         DBGrd->Columns()[FOrderFieldIndex]->Title().SetCaption(FOrderDesc);
     }
-    FOrderFieldIndex = Index;
+    TakeOrderColumn(Index);
     CbPesquisa->SetVisible(false);
-    FOrderField = column->Field();
-    FOrderDesc = column->Title().Caption();
-    column->Title().SetCaption(kOrderMark + FOrderDesc);
     EdtPesquisa->SetEditMask({});
     if (FVisType == vtFilter) MainDataSet()->Close();
     ClearSearch();
@@ -80,6 +77,12 @@ void TFrmGrid_Master::SetOrderFieldIndex(int Index) {
     } else {
         ShowTextSearch(column);
     }
+}
+
+void TFrmGrid_Master::TakeOrderColumn(int Index) {
+    FOrderFieldIndex = Index;
+    FOrderField = DBGrd->Columns()[Index]->Field();
+    SetColumnTitle(Index, DBGrd->Columns()[Index]->Title().Caption());
 }
 
 void TFrmGrid_Master::OrderByNeighbour(int Step) {

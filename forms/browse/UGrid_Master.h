@@ -150,6 +150,8 @@ class TFrmGrid_Master : public TFrmBase {
     bool DataIsOpen() const { return MainDS->State() != dsInactive; }
     // The list or a calendar of the search box is open; Enter and Escape are its own then.
     bool ListIsOpen() const;
+    // Makes the column the ordering one and marks its title; nothing else changes.
+    void TakeOrderColumn(int Index);
 
     bool FSaveGrid = true;
     bool FColumnMoved = false;

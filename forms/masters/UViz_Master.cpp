@@ -247,11 +247,9 @@ void TFrmViz_Master::LoadGridConfig() {
 // The columns have other fields and titles now: the ordering column is the one that shows the ordering field,
 // or the one at its old place when no column shows it any more.
 void TFrmViz_Master::FollowOrderColumn() {
+    int index = FOrderFieldIndex;
     for (int i = 0; i < DBGrd->Columns().Count(); ++i) {
-        if (DBGrd->Columns()[i]->Field() == FOrderField) FOrderFieldIndex = i;
+        if (DBGrd->Columns()[i]->Field() == FOrderField) index = i;
     }
-    TColumn* column = DBGrd->Columns()[FOrderFieldIndex];
-    FOrderField = column->Field();
-    FOrderDesc = column->Title().Caption();
-    column->Title().SetCaption(u"»"_s + FOrderDesc);
+    TakeOrderColumn(index);
 }
