@@ -225,6 +225,7 @@ class TDataSet : public TComponent {
     std::vector<TField*> FFields;
     std::unique_ptr<fichario::RowStore> FRows;
     std::unique_ptr<fichario::EditBuffer> FEdits;
+    fichario::TypedRecord* FKeepPosted = nullptr;   // where the next post leaves the record as it was typed
     std::shared_ptr<fichario::DataEvents> FEvents;  // the data sources that hear of changes
     int FHearing = 0;                               // how many of them there are
     int FResult = 0;                                // counts the results that were taken over

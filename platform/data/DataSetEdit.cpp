@@ -1,4 +1,6 @@
 // A dataset's edits: a record is changed, added, posted, cancelled, deleted.
+#include <utility>
+
 #include "platform/data/DataEvents.h"
 #include "platform/data/DataSet.h"
 #include "platform/data/EditBuffer.h"
@@ -96,6 +98,7 @@ void TDataSet::Post() {
     if (!Editing()) return;
     UpdateRecord();
     Call(BeforePost);
+    if (FKeepPosted) *std::exchange(FKeepPosted, nullptr) = Typed();
     if (FState == dsInsert || Modified()) DoPost();
     EndEditing();
     Call(AfterPost);

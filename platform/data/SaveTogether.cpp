@@ -48,7 +48,10 @@ class TogetherSave {
         FTyped.Edits.Doubtful = FQuery->FWritten;
         return FQuery->WrittenIsStored();
     }
+    // What the host's work changes in the record before the post goes with what was typed: what it changed
+    // elsewhere, as in items taken into account, stays changed as well.
     void Remember(bool remember) {
+        FDataSet.FKeepPosted = remember ? &FTyped : nullptr;
         if (FQuery) FQuery->FRemember = remember;
     }
     // What other datasets of the connection applied in the transaction is stored with it.

@@ -11,8 +11,8 @@
 class TDataSet;
 
 // Runs `work`, which posts `dataSet`, inside a transaction of its connection and commits. When anything
-// throws, all of it is rolled back, the record is in insert or edit state again with everything typed, also
-// when there is no server to ask any more, and the exception goes on.
+// throws, all of it is rolled back, the record is in insert or edit state again with everything typed and
+// what `work` set before it posted, also when there is no server to ask any more, and the exception goes on.
 //
 // A connection lost during the commit tells nothing: the record is looked for over a new one, and when it is
 // stored all is well. When nobody can be asked now, the next call looks first, and writes nothing twice.
