@@ -12,14 +12,20 @@ const UnicodeString kUsuario = u"Usuario"_s;
 
 }  // namespace
 
-void Anotar(const UnicodeString& fato) try { Log(fato); } catch (const EInOutError&) {
+void Anotar(const UnicodeString& fato) {
+    try {
+        Log(fato);
+    } catch (const EInOutError&) {
+    }
 }
 
 UnicodeString UltimoUsuario() {
     return GetRegValue(rkCurrentUser, kCaminho, kUsuario).ToText();
 }
 
-void LembrarUsuario(const UnicodeString& nome) try {
-    SetRegValue(rkCurrentUser, kCaminho, kUsuario, nome);
-} catch (const EInOutError&) {
+void LembrarUsuario(const UnicodeString& nome) {
+    try {
+        SetRegValue(rkCurrentUser, kCaminho, kUsuario, nome);
+    } catch (const EInOutError&) {
+    }
 }

@@ -19,6 +19,8 @@ constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
 constexpr int kLength = 12;
 constexpr int kCasas = 2;
 
+const UnicodeString kSemPreco = u"Com esse custo e esses percentuais não há preço de venda."_s;
+
 // What is not typed counts as nothing.
 Currency Lido(const TEdit* edit) {
     return LeValor(edit->Text()).value_or(Currency());
@@ -67,9 +69,8 @@ void TFrmPreco::ShowPrice() {
     if (!FPreco) return;
     const bool typed = Lido(FCusto) > Currency(), leaves = Preco() > Currency();
     FPreco->SetFontColor(!typed || leaves ? Cores::Dica : Cores::Erro);
-    if (!typed) return FPreco->SetCaption(u"Digite o custo e os percentuais que o preço cobre."_s);
-    UnicodeString text = leaves ? u"Preço de venda: R$ "_s + ValorEmAlgarismos(Preco())
-                                : u"O custo e os percentuais não deixam preço."_s;
+    if (!typed) return FPreco->SetCaption(u"Digite o custo e os percentuais que o preço deve cobrir."_s);
+    UnicodeString text = leaves ? u"Preço de venda: R$ "_s + ValorEmAlgarismos(Preco()) : kSemPreco;
     if (FAtual > Currency()) {
         const Currency lucro = CalcLucroReal(Lido(FCusto), Lido(FImpostos), Lido(FDespesas), FAtual);
         text += u"\nO preço atual, de R$ %1, deixa um lucro de %2%."_s.arg(
@@ -80,6 +81,6 @@ void TFrmPreco::ShowPrice() {
 
 void TFrmPreco::BtnConfirmarClick(TComponent* Sender) {
     if (Preco() > Currency()) return TFrmEnt_Master::BtnConfirmarClick(Sender);
-    Application->MessageBox(u"O custo e os percentuais não deixam preço."_s, u"Aviso"_s, MB_ICONWARNING);
+    Application->MessageBox(kSemPreco, u"Aviso"_s, MB_ICONWARNING);
     FCusto->SetFocus();
 }

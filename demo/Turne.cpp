@@ -31,14 +31,7 @@ class TTour {
   public:
     TTour(TFrmPrincipal& main, const UnicodeString& folder) : FMain(main), FFolder(folder) {}
 
-    void Shoot(const UnicodeString& name) {
-        Settle();
-        const UnicodeString path = JoinPath(FFolder, name + u".png"_s);
-        FMain.Widget()->window()->grab().save(path);
-        fprintf(stdout, "%s\n", qPrintable(path));
-    }
-
-    void MainWindow() { Shoot(u"01-janela-principal"_s); }
+    void Shoot(const UnicodeString& name) { Shoot(name, *FMain.Widget()->window()); }
 
     void Customers() {
         FMain.OpenClientes();
@@ -120,10 +113,8 @@ class TTour {
         form->MainDS->DataSet()->FieldByName(u"OBS"_s)->SetAsString(kTextoRico);
         Shoot(u"28-produto-texto-rico"_s);
         form->MainDS->DataSet()->Cancel();
-        form->Close();
-        Settle();
-        products->Close();
-        Settle();
+        End(form);
+        End(products);
     }
 
     void Orders() {
@@ -140,16 +131,12 @@ class TTour {
         Settle();
         dynamic_cast<TFrmPesq_Master*>(form->ChildForm())->FinishSearch();
         Shoot(u"31-procurar-produto"_s);
-        form->ChildForm()->Close();
-        Settle();
-        form->Close();
-        Settle();
+        End(form->ChildForm());
+        End(form);
         orders->CreateCad(1);
         Shoot(u"32-pedido-incluindo"_s);
-        orders->ChildForm()->Close();
-        Settle();
-        orders->Close();
-        Settle();
+        End(orders->ChildForm());
+        End(orders);
     }
 
     void Sellers() {
@@ -158,18 +145,13 @@ class TTour {
         auto* sellers = dynamic_cast<TFrmVendedores*>(FMain.OpenForms().back());
         sellers->CreateCad(2);
         Shoot(u"34-vendedor-alterando"_s);
-        sellers->ChildForm()->Close();
-        Settle();
-        sellers->Close();
-        Settle();
+        End(sellers->ChildForm());
+        End(sellers);
     }
 
     void Waiting() {
         auto* wait = NewForm<TFrmWaitScreen>(Application);
-        Settle();
-        const UnicodeString path = JoinPath(FFolder, u"35-aguarde.png"_s);
-        wait->Widget()->grab().save(path);
-        fprintf(stdout, "%s\n", qPrintable(path));
+        Shoot(u"35-aguarde"_s, *wait->Widget());
         wait->Free();
     }
 
@@ -184,8 +166,7 @@ class TTour {
         Settle();
         lookup->FinishSearch();
         Shoot(u"17-procurar-municipio"_s);
-        lookup->BtnCancelaClick(nullptr);
-        Settle();
+        End(lookup);
         CloseChild();
     }
 
@@ -195,15 +176,14 @@ class TTour {
         dynamic_cast<TFrmCad_Master*>(Clientes()->ChildForm())->BtnTabSet->SetTabIndex(1);
         Shoot(u"13-cliente-segunda-pagina"_s);
         CloseChild();
-        Clientes()->CreateCad(1);
-        Shoot(u"14-cliente-incluindo"_s);
-        CloseChild();
-        Clientes()->CreateCad(4);
-        Shoot(u"15-cliente-visualizando"_s);
-        CloseChild();
-        Clientes()->CreateCad(3);
-        Shoot(u"16-cliente-excluindo"_s);
-        CloseChild();
+        const std::pair<unsigned char, UnicodeString> others[] = {{1, u"14-cliente-incluindo"_s},
+                                                                  {4, u"15-cliente-visualizando"_s},
+                                                                  {3, u"16-cliente-excluindo"_s}};
+        for (const auto& [mode, name] : others) {
+            Clientes()->CreateCad(mode);
+            Shoot(name);
+            CloseChild();
+        }
     }
 
     void Towns() {
@@ -222,6 +202,13 @@ class TTour {
     }
 
   private:
+    void Shoot(const UnicodeString& name, QWidget& what) {
+        Settle();
+        const UnicodeString path = JoinPath(FFolder, name + u".png"_s);
+        what.grab().save(path);
+        fprintf(stdout, "%s\n", qPrintable(path));
+    }
+
     TFrmClientes* Clientes() const {
         for (TFrmBase* form : FMain.OpenForms()) {
             if (auto* found = dynamic_cast<TFrmClientes*>(form)) return found;
@@ -247,11 +234,9 @@ class TTour {
     void ShootModal(QStringList names, const std::function<void()>& open,
                     const std::function<void(TForm*)>& act = nullptr) {
         Application->OnModal = [&](TForm* form) {
-            const UnicodeString path = JoinPath(FFolder, names.takeFirst() + u".png"_s);
+            const UnicodeString name = names.takeFirst();
             if (act) act(form);
-            Settle();
-            form->Widget()->grab().save(path);
-            fprintf(stdout, "%s\n", qPrintable(path));
+            Shoot(name, *form->Widget());
             form->Close();
         };
         open();
@@ -272,8 +257,10 @@ class TTour {
         receipt.BtnConfirmarClick(nullptr);
     }
 
-    void CloseChild() {
-        Clientes()->ChildForm()->Close();
+    void CloseChild() { End(Clientes()->ChildForm()); }
+
+    void End(TForm* form) {
+        form->Close();
         Settle();
     }
 
@@ -292,7 +279,7 @@ int WriteTour(TFrmPrincipal& main, const UnicodeString& folder, const QSize& siz
     EnsureFolder(folder);
     main.SetBounds(0, 0, size.width(), size.height());
     TTour tour(main, folder);
-    tour.MainWindow();
+    tour.Shoot(u"01-janela-principal"_s);
     tour.Customers();
     tour.Filters();
     tour.Fields();

@@ -157,7 +157,7 @@ TEST_F(Cadastro, APriceIsWorkedOutFromItsCost) {
     ExpectModal([this](TForm*) {
         Fill(u"100"_s);
         Fill(u"100"_s);
-        ExpectBox(u"O custo e os percentuais não deixam preço."_s, u"Aviso"_s, kAviso);
+        ExpectBox(u"Com esse custo e esses percentuais não há preço de venda."_s, u"Aviso"_s, kAviso);
         Press(VK_F12);
         for (const UnicodeString& text : {u"100"_s, u"18x"_s, u"12"_s, u"20.0"_s}) Fill(text);
         Press(VK_F12);

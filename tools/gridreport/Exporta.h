@@ -1,14 +1,14 @@
 // A report as a file: PDF, CSV or XLSX. Each is written under another name and put in its place when it is
 // complete; a stopped or failed one leaves nothing behind.
 //
-//     ExportarPdf(pages, "clientes.pdf", progress);
+//     ExportarPdf(report, pages, "clientes.pdf", progress);
 #pragma once
 
 #include <optional>
 
 #include "tools/gridreport/Pagina.h"
 
-// All raise EInOutError with the cause, and EAbort when `andamento` answers false.
+// `faixa`: these pages only. All raise EInOutError with the cause, and EAbort when `andamento` answers false.
 void ExportarPdf(const TRelatorio& relatorio, const TPaginas& paginas, const UnicodeString& arquivo,
                  const TAndamento& andamento = {}, const std::optional<TFaixa>& faixa = {});
 
