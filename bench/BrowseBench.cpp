@@ -99,9 +99,9 @@ void Repaint(benchmark::State& state) {
     state.counters["worst_ms"] = worst * 1e3;
 }
 
-class TFrmLista : public TFrmViz_Master {
+class TListaSimples : public TFrmViz_Master {
   public:
-    TFrmLista(TComponent* owner, TModuleInstance* module, TDM_Comercial* data)
+    TListaSimples(TComponent* owner, TModuleInstance* module, TDM_Comercial* data)
         : TFrmViz_Master(owner, module, nullptr, vtList, ktFieldProviderFlag), FData(data) {}
 
   protected:
@@ -122,7 +122,7 @@ class TFrmLista : public TFrmViz_Master {
 void LoadList(benchmark::State& state) {
     TScreen screen(Database(int(state.range(0))));
     TModuleInstance module(screen.Main, {u"LISTA"_s, u"Lista"_s, {}});
-    auto* list = NewForm<TFrmLista>(Application, &module, screen.Data);
+    auto* list = NewForm<TListaSimples>(Application, &module, screen.Data);
     auto* query = dynamic_cast<TFDQuery*>(list->MainDS->DataSet());
     const UnicodeString sql = query->SQL()->Text();
     const auto load = [&] {
@@ -138,7 +138,7 @@ void LoadList(benchmark::State& state) {
 void LocateInList(benchmark::State& state) {
     TScreen screen(Database(int(state.range(0))));
     TModuleInstance module(screen.Main, {u"LISTA"_s, u"Lista"_s, {}});
-    auto* list = NewForm<TFrmLista>(Application, &module, screen.Data);
+    auto* list = NewForm<TListaSimples>(Application, &module, screen.Data);
     list->MainDS->DataSet()->Last();
     for (auto _ : state) list->Locate(u"maria xyzq"_s);
     list->Free();

@@ -7,14 +7,12 @@
 // raw_ms is the limit, ours a multiple of it.
 //
 // OpenFicha   the registration form of one customer to its first picture (allowed: 150 ms); raw: the bare
-// query
-//             for the record, and a window with as many edits that hold its texts
+//             query for the record, and a window with as many edits that hold its texts
 // Confirmar   from the click on Confirmar to the picture of the grid on the changed record; raw: the bare
 //             update, its commit and the first page of the list. statements counts those after the post
 //             (allowed: 3)
 // PrintPdf    100 000 rows of customers to PDF by the printing program (allowed: 20 s, and 300 MB that it
-// takes
-//             at most); raw: as many texts drawn into a PDF, without measuring any
+//             takes at most); raw: as many texts drawn into a PDF, without measuring any
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 #include <QFormLayout>

@@ -7,9 +7,7 @@
 // speed), texts 3, ExplodeStr 1.3; Arredonda 25 ns a call and `different` 0, a log line 50 µs.
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>
-#include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <QStringList>
@@ -17,6 +15,7 @@
 #include <random>
 #include <vector>
 
+#include "bench/Comparison.h"
 #include "platform/system/Paths.h"
 #include "utils/Funcoes.h"
 #include "utils/MD5.h"
@@ -25,34 +24,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-template <class Work>
-double SecondsOf(Work work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-// Runs peer and ours by turns, so that a noisy neighbour meets both.
-template <class Peer, class Ours>
-void Compare(benchmark::State& state, Peer peer, Ours ours) {
-    std::vector<double> ratios;
-    peer();
-    ours();
-    for (auto unused : state) {
-        static_cast<void>(unused);
-        const double limit = SecondsOf(peer), spent = SecondsOf(ours);
-        state.SetIterationTime(spent);
-        ratios.push_back(spent / limit);
-    }
-    std::sort(ratios.begin(), ratios.end());
-    state.counters["ratio"] = ratios[ratios.size() / 2];
+void BesidePeer(benchmark::State& state, const Work& peer, const Work& ours) {
+    Compare(state, peer, {{"ratio", ours}});
 }
 
 // ---- digests, beside OpenSSL's ----
 
 void Digest512MiB(benchmark::State& state) {
     const std::vector<char> bytes(512 << 20, 'x');
-    Compare(
+    BesidePeer(
         state,
         [&] {
             unsigned char digest[EVP_MAX_MD_SIZE];
@@ -158,7 +138,7 @@ unsigned ReadEach(const UnicodeString& text) {
 template <UnicodeString (*Function)(const UnicodeString&)>
 void Text(benchmark::State& state) {
     const UnicodeString text = LongText(state.range(0));
-    Compare(
+    BesidePeer(
         state, [&] { benchmark::DoNotOptimize(ReadEach(text)); },
         [&] { benchmark::DoNotOptimize(Function(text)); });
 }
@@ -167,7 +147,7 @@ BENCHMARK(Text<GetNumbers>)->Name("GetNumbers")->Arg(kTenMB / 10)->Arg(kTenMB)->
 
 void Explode(benchmark::State& state) {
     const UnicodeString text = LongText(kTenMB);
-    Compare(
+    BesidePeer(
         state, [&] { benchmark::DoNotOptimize(text.split(u';')); },
         [&] { benchmark::DoNotOptimize(ExplodeStr(text, u';')); });
 }
