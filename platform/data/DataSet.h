@@ -188,7 +188,6 @@ class TDataSet : public TComponent {
     void Scrolled();
     void FetchUntil(int row);
     void RenewRows() const;
-    void CheckFetched(bool more);
     std::vector<int> KeyColumns() const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
     void Reload();

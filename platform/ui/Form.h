@@ -222,7 +222,6 @@ class TForm : public TWidget<QWidget>, public THandlerHost {
     void SetSizeLimits();
     bool HasOneSize() const;
     void HoldSize();
-    void PaintFrame();
     QMargins FrameMargins() const;
     bool Sizeable() const;
     QRect PlaceOver() const;
