@@ -1,9 +1,7 @@
 #include "demo/dados/Banco.h"
 
 #include <cerrno>
-#include <cstdio>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 

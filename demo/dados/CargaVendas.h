@@ -5,8 +5,6 @@
 //     connection.Commit();
 #pragma once
 
-#include "platform/rtl/Types.h"
-
 class TFDConnection;
 
 // Every tenth customer has an order, at most so many.

@@ -10,7 +10,6 @@
 // Ctrl+Shift+L for bullets, Ctrl+Shift+C for the colours. A read-only text keeps its looks.
 #pragma once
 
-#include <array>
 
 #include "platform/ui/RichEdit.h"
 #include "platform/ui/StdCtrls.h"

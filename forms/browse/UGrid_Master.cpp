@@ -4,7 +4,6 @@
 #include "platform/data/DataSet.h"
 #include "platform/rtl/FormatSettings.h"
 #include "platform/ui/Palette.h"
-#include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
 

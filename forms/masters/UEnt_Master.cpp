@@ -1,6 +1,5 @@
 #include "forms/masters/UEnt_Master.h"
 
-#include <memory>
 #include <QPainter>
 
 #include "forms/masters/GridRoom.h"

@@ -1,6 +1,5 @@
 // A query's records kept back until they are written together.
 #include "platform/data/Field.h"
-#include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/PreparedQuery.h"
 #include "platform/data/Query.h"

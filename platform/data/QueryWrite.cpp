@@ -2,7 +2,6 @@
 #include <algorithm>
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
-#include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/firebird/SqlRunner.h"

@@ -1,7 +1,6 @@
 #include "platform/data/SaveTogether.h"
 
 #include <QScopeGuard>
-#include <vector>
 
 #include "platform/data/Connection.h"
 #include "platform/data/EditBuffer.h"

@@ -1,6 +1,5 @@
 #include "platform/data/firebird/RecordWriter.h"
 
-#include <algorithm>
 #include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/Misfits.h"
