@@ -10,6 +10,7 @@
 // Ctrl+Shift+L for bullets, Ctrl+Shift+C for the colours. A read-only text keeps its looks.
 #pragma once
 
+#include <functional>
 
 #include "platform/ui/RichEdit.h"
 #include "platform/ui/StdCtrls.h"
