@@ -46,8 +46,9 @@ int TDataSet::FetchMore(int rows) {
     FAllFetched = !DoFetch(rows);
     if (FRow >= RowCount()) Settle(FRow);  // the rows were read anew and others deleted some
     const int arrived = RowCount() - before;
-    if (auto* events = Events(); events && arrived > 0) events->RowsArrived();
-    return arrived;
+    if (auto* events = Events(); events && arrived != 0)
+        arrived < 0 ? events->DataSetChanged() : events->RowsArrived();
+    return std::max(arrived, 0);
 }
 
 void TDataSet::FetchUntil(int row) {

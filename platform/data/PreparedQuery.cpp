@@ -60,6 +60,7 @@ void PreparedQuery::Learn() {
 }
 
 StatementLease PreparedQuery::Take() {
+    if (FStatement && !FStatement->IsCurrent()) FStatement = {};
     if (!FStatement && FWide) {
         PrepareWide();
     } else if (!FStatement) {

@@ -54,7 +54,9 @@ std::vector<WriteColumn> TFDCustomQuery::DescribeTable(const UnicodeString& tabl
     const TableInfo& known = FPrepared->On()->Tables().Table(table);
     std::vector<WriteColumn> columns;
     columns.reserve(static_cast<size_t>(FieldCount()));
-    for (int i = 0; i < FieldCount(); ++i) {
+    // A table altered while the connection was lost may give fewer columns than there are fields.
+    const int count = std::min(FieldCount(), static_cast<int>(FPrepared->Columns().size()));
+    for (int i = 0; i < count; ++i) {
         const ColumnInfo& info = FPrepared->Columns()[static_cast<size_t>(i)];
         if (!FPrepared->IsOf(info, table)) continue;
         const TField& field = *FieldOfColumn(i);
