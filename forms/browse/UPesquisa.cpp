@@ -57,12 +57,13 @@ void TFrmPesquisa::FormCreate(TComponent* Sender) {
 }
 
 void TFrmPesquisa::FillFields() {
-    const TStringsUpdate update(*LstCampos->Items());
+    TStringArray labels;
     for (const TField* field : DataSet()->Fields()) {
         if (field->FieldName() == u"TF_DEL" || field->Origin() == kExcluded) continue;
         FCampos.push_back(field->FieldName());
-        LstCampos->Items()->Add(field->DisplayLabel());
+        labels.push_back(field->DisplayLabel());
     }
+    LstCampos->Items()->Assign(labels);
     LstCampos->SetItemIndex(0);
 }
 
@@ -191,6 +192,7 @@ void TFrmPesquisa::AplicaFiltros() {
         query->ParamByName(GridForm()->Params[i])->SetValue(GridForm()->ParamValues[i]);
     }
     query->Close();
+    GridForm()->GetRecordCount();  // while it cannot be opened there is none
     query->Open();
     GridForm()->GetRecordCount();
 }

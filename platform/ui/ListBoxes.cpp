@@ -3,11 +3,20 @@
 #include <QSignalBlocker>
 #include "platform/ui/ShownList.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kItemHeight = 20;
+constexpr int kHintLength = 160;
 
+// Users' texts may look like markup, and be longer than a screen is wide.
+UnicodeString HintOf(UnicodeString text) {
+    if (text.size() > kHintLength) text = text.left(kHintLength) + u'…';
+    return u"<span>"_s + text.toHtmlEscaped() + u"</span>"_s;
 }
+
+}  // namespace
 
 TListBox::TListBox(TComponent* owner)
     : TWidget(owner), FItems(std::make_unique<TShownList>([this] { ShowItems(); })) {
@@ -19,7 +28,7 @@ TListBox::~TListBox() = default;
 
 void TListBox::ShowItems() {
     const QSignalBlocker silent(this);
-    const int chosen = currentRow();
+    const int chosen = ItemIndex();
     while (count() > FItems->Count()) delete takeItem(count() - 1);
     for (int i = 0; i < FItems->Count(); ++i) {
         if (i == count()) {
@@ -28,7 +37,7 @@ void TListBox::ShowItems() {
             Prepare(*added);
         }
         item(i)->setText(FItems->Strings(i));
-        item(i)->setToolTip(FItems->Strings(i));
+        item(i)->setToolTip(HintOf(FItems->Strings(i)));
     }
     setCurrentRow(chosen < count() ? chosen : -1);
 }
@@ -39,9 +48,9 @@ void TListBox::SetItemIndex(int index) {
 }
 
 void TListBox::keyPressEvent(QKeyEvent* event) {
-    const int before = currentRow();
+    const int before = ItemIndex();
     TWidget::keyPressEvent(event);
-    if (currentRow() != before) CalledByQt(this, [this] { DoClick(); });
+    if (ItemIndex() != before) CalledByQt(this, [this] { DoClick(); });
 }
 
 TCheckListBox::TCheckListBox(TComponent* owner) : TListBox(owner) {

@@ -16,8 +16,8 @@ class TListBox : public TWidget<QListWidget> {
 
     // Changing the list keeps the chosen index while there is one.
     TStrings* Items() const { return FItems.get(); }
-    // -1 when none is chosen. Setting it fires no event.
-    int ItemIndex() const { return currentRow(); }
+    // -1 when none is chosen; one that only has the focus is not. Setting it fires no event.
+    int ItemIndex() const { return selectedItems().isEmpty() ? -1 : currentRow(); }
     void SetItemIndex(int index);
 
     // OnClick (of TControl) also comes when the user chooses another item by keyboard.

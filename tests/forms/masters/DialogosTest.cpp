@@ -56,6 +56,7 @@ TEST_F(Dialogos, FilterTheViewAndArrangeItsFields) {
                           filters()->LstCampos->SetItemIndex(a[0].toInt());
                           filters()->LstCamposClick(nullptr);
                       })},
+                     {u"Hint"_s, [&](const A&) { return filters()->LstFiltros->item(0)->toolTip(); }},
                      {u"Filters"_s, [&](const A&) { return QString::number(filters()->Filtros().size()); }},
                      {u"Order"_s, [&](const A&) { return QString::number(Vista->FOrderFieldIndex); }}});
 }
