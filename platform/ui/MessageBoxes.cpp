@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include "platform/ui/Application.h"
+#include "platform/ui/Form.h"
 #include "platform/ui/Guard.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,11 +53,20 @@ int ShowBox(QMessageBox& box, int flags) {
     return answers.back().Id;
 }
 
+// While no window of the program is the active one, as when another program was brought to the front during a
+// wait, a box without an owner could lie behind the window that it blocks.
+QWidget* OwnerOfBox() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    TForm* form = Application->ActiveForm();
+    return form && form->window()->isVisible() ? form->window() : nullptr;
+}
+
 }  // namespace
 
 int TApplication::MessageBox(const UnicodeString& text, const UnicodeString& caption, int flags) {
     if (OnMessageBox) return OnMessageBox({text, caption, flags});
-    QMessageBox box(IconOf(flags), caption, text, QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(IconOf(flags), caption, text, QMessageBox::NoButton, OwnerOfBox());
     box.setTextFormat(Qt::PlainText);
     return ShowBox(box, flags);
 }

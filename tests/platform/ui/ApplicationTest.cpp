@@ -32,11 +32,13 @@ TEST_F(ApplicationTest, RealBoxesAnswerInPortuguese) {
     TakeJournal();
     const auto hook = std::exchange(Application->OnMessageBox, nullptr);
     for (const TCase& box : kCases) {
+        QApplication::setActiveWindow(nullptr);  // another program is in front
         SCOPED_TRACE(std::to_string(box.Flags) + (box.Button ? box.Button : " Escape"));
         QTimer::singleShot(0, [&] {
             auto* shown = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(shown);
             EXPECT_EQ(shown->text(), u"Texto <b>"_s);
+            EXPECT_EQ(shown->parentWidget(), form->window());
             if (!box.Button) return QTest::keyClick(shown->windowHandle(), Qt::Key_Escape);
             for (QAbstractButton* button : shown->buttons()) {
                 if (button->text() == QString::fromUtf8(box.Button)) return button->click();
