@@ -1,5 +1,4 @@
-// The base of Comercial's lookups inside the main window: something to choose from is there before anything
-// is typed.
+// The base of Comercial's lookups: something to choose from is there before anything is typed.
 #pragma once
 
 #include "demo/DmComercial.h"

@@ -179,14 +179,13 @@ void TFrmRecibo::BtnConfirmarClick(TComponent* Sender) {
 
 TFrmPesqPagador::TFrmPesqPagador(TComponent* AOwner, TModuleInstance* AModule, TResearchResult* AResult,
                                  const UnicodeString& AStart, TDM_Comercial* AData)
-    : TFrmPesq_Master(AOwner, AModule, vtFilter, AResult, AStart, u"COALESCE(TF_DEL, 'N') = 'N'"_s, 0),
-      FData(AData) {
+    : TFrmProcura(AOwner, AModule, AResult, AStart, AData) {
     SetFormStyle(fsNormal);
     SetVisible(false);
 }
 
 void TFrmPesqPagador::CreateControls() {
-    TFrmPesq_Master::CreateControls();
+    TFrmProcura::CreateControls();
     SetCaption(u"Procurar cliente"_s);
     TFDQuery* customers = FData->NewQuery(this, u"SELECT NM_CLI, CIDADE FROM CLIENTE"_s);
     Label(customers, u"NM_CLI"_s, u"Nome"_s);

@@ -6,8 +6,8 @@
 #pragma once
 
 #include "demo/DmComercial.h"
+#include "demo/FrmProcura.h"
 #include "demo/ReciboRegras.h"
-#include "forms/browse/UPesq_Master.h"
 #include "forms/masters/UEnt_Master.h"
 
 class TDateTimePicker;
@@ -51,7 +51,7 @@ class TFrmRecibo : public TFrmEnt_Master {
 };
 
 // The lookup of a customer from the receipt: a window of its own, shown modally over it.
-class TFrmPesqPagador : public TFrmPesq_Master {
+class TFrmPesqPagador : public TFrmProcura {
   public:
     // `AResult` receives the name (0); `AStart` is the text to search first.
     TFrmPesqPagador(TComponent* AOwner, TModuleInstance* AModule, TResearchResult* AResult,
@@ -59,7 +59,4 @@ class TFrmPesqPagador : public TFrmPesq_Master {
 
   protected:
     void CreateControls() override;
-
-  private:
-    TDM_Comercial* FData;
 };

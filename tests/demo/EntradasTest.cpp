@@ -8,6 +8,7 @@
 #include "demo/dados/Banco.h"
 #include "demo/FrmPreviaRecibo.h"
 #include "demo/FrmPrincipal.h"
+#include "demo/FrmRecibo.h"
 #include "platform/rtl/Files.h"
 #include "platform/system/Paths.h"
 #include "platform/ui/Application.h"
@@ -56,6 +57,11 @@ TEST_F(Entradas, ReceiptIsWrittenByKeys) {
     const UnicodeString path = Folder.filePath(u"r.pdf"_s), printed = Folder.filePath(u"i.pdf"_s);
     UnicodeString payer;
     ExpectModal([&](TForm* form) {
+        ExpectModal([&](TForm* lookup) {
+            EXPECT_FALSE(dynamic_cast<TFrmPesqPagador*>(lookup)->MainDS->DataSet()->IsEmpty());
+            Press(VK_ESCAPE);
+        });
+        Press(VK_F2);
         TypeText(u"jo"_s);
         ExpectModal([&](TForm*) { Press(VK_RETURN); });
         Press(VK_F2);
