@@ -102,7 +102,7 @@ void TFDCustomConnection::CloseDataSets() {
 
 // A lost connection is replaced, but for the one that a host's transaction was lost with: the host must hear
 // of it and roll back.
-std::shared_ptr<Attachment> TFDCustomConnection::RequireAttachment() {
+const std::shared_ptr<Attachment>& TFDCustomConnection::RequireAttachment() {
     if (FAttachment && !FAttachment->Usable()) {
         if (InTransaction()) throw ErrorOfCodes({kConnectionLost});
         FAttachment.reset();

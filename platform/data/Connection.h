@@ -72,7 +72,7 @@ class TFDCustomConnection : public TComponent {
     std::function<void(TFDCustomConnection*)> OnLost;
 
     // The open connection, opened now when it is not. Internal to the data layer.
-    std::shared_ptr<fichario::Attachment> RequireAttachment();
+    const std::shared_ptr<fichario::Attachment>& RequireAttachment();
 
   protected:
     ~TFDCustomConnection() override;

@@ -51,7 +51,7 @@ void TFDCustomQuery::SQLChanged() {
 
 // When it cannot be prepared anew, what is known of the statement before stays: rows of it may be here.
 PreparedQuery& TFDCustomQuery::RequirePrepared() {
-    const std::shared_ptr<Attachment> attachment = RequireConnection().RequireAttachment();
+    const std::shared_ptr<Attachment>& attachment = RequireConnection().RequireAttachment();
     if (!FPrepared || FPrepared->On() != attachment) {
         auto prepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
         if (FPrepared && FPrepared->IsWide()) prepared->Widen();

@@ -154,9 +154,9 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     TFDParams FParams;
     std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
-    // The columns of the table being written and what they were made for: kept from one record to the next.
-    mutable std::vector<fichario::WriteColumn> FTableColumns;
+    // The table being written and its columns, kept from one record to the next.
     mutable UnicodeString FColumnsTable;
+    mutable std::vector<fichario::WriteColumn> FTableColumns;
     mutable int FColumnsVersion = -1;
     bool FFits = false;                         // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once

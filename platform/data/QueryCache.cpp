@@ -86,7 +86,7 @@ void TFDCustomQuery::WriteDeleted() {
             column.Write = false;
             column.Value = column.OldValue = before[static_cast<size_t>(column.Column)];
         }
-        RecordWriter(*FPrepared->On(), UpdateTable(), columns).Delete();
+        RecordWriter(*FPrepared->On(), FColumnsTable, columns).Delete();
     }
 }
 
@@ -100,7 +100,7 @@ void TFDCustomQuery::WritePending(int row) {
         column.Write = column.CanWrite && column.Value != column.OldValue;
         some = some || column.Write;
     }
-    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
+    RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     if (!some) return;
     if (!pending.New) return writer.Update();
 

@@ -1,5 +1,6 @@
 // A query's records written to its table, and read again afterwards.
 #include <algorithm>
+#include <QVarLengthArray>
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/Metadata.h"
@@ -40,13 +41,12 @@ UnicodeString WithoutBlanks(UnicodeString text) {
 
 // The columns that belong to the table being written, with the values of whichever record was there last.
 std::vector<WriteColumn>& TFDCustomQuery::TableColumns() const {
-    const UnicodeString table = UpdateTable();
-    if (table.isEmpty()) throw EDatabaseError(u"The statement has no table that records can be written to"_s);
-    if (FColumnsVersion != FieldsVersion() || FColumnsTable != table) {
-        FTableColumns = DescribeTable(table);
-        FColumnsVersion = FieldsVersion();
-        FColumnsTable = table;
-    }
+    if (FColumnsVersion == FieldsVersion()) return FTableColumns;
+    FColumnsTable = UpdateTable();
+    if (FColumnsTable.isEmpty())
+        throw EDatabaseError(u"The statement has no table that records can be written to"_s);
+    FTableColumns = DescribeTable(FColumnsTable);
+    FColumnsVersion = FieldsVersion();
     return FTableColumns;
 }
 
@@ -85,7 +85,11 @@ void TFDCustomQuery::TakeNew(WriteColumn& column) const {
     const Variant* value = Assigned(column.Column);
     column.Write = column.CanWrite && value;
     column.OldValue = Variant();
-    column.Value = value ? *value : Variant::Null();
+    if (value) {
+        column.Value = *value;
+    } else {
+        column.Value = Variant::Null();
+    }
 }
 
 void TFDCustomQuery::TakeChanged(WriteColumn& column) const {
@@ -129,7 +133,7 @@ void TFDCustomQuery::DoDelete() {
     RequireWriting();
     std::vector<WriteColumn>& columns = WriteColumns();
     for (WriteColumn& column : columns) column.Write = false;
-    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
+    RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     try {
         writer.Delete();
     } catch (const EFDError&) {
@@ -156,7 +160,7 @@ bool TFDCustomQuery::IsSoAnew(Check check) {
 void TFDCustomQuery::Write(std::vector<WriteColumn>& columns) {
     const bool stored = TakeStored(columns);
     const std::vector<WriteColumn> before = FRemember ? columns : std::vector<WriteColumn>();
-    RecordWriter writer(*FPrepared->On(), UpdateTable(), columns);
+    RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     std::vector<Variant> key;
     try {
         if (State() == dsInsert && !stored) {
@@ -243,7 +247,7 @@ bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns)
         names.push_back(column.Name);
         key.emplace_back(column.Value, column.Type);
     }
-    if (names.empty() || !shape.IsPlain() || UpdateTable() != shape.MainTable()) return false;
+    if (names.empty() || !shape.IsPlain() || FColumnsTable != shape.MainTable()) return false;
     std::vector<InputValue> values = Inputs();
     values.insert(values.begin() + shape.ParamsBeforeWhere(), key.begin(), key.end());
     const RowStore found = FPrepared->Read(shape.KeyedText(names), values);
@@ -264,7 +268,7 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) co
     }
     if (conditions.empty()) return {};
     const UnicodeString sql = u"SELECT "_s + Joined(names, u", "_s) + u" FROM "_s +
-                              QuoteIdentifier(UpdateTable()) + u" WHERE "_s + Joined(conditions, u" AND "_s);
+                              QuoteIdentifier(FColumnsTable) + u" WHERE "_s + Joined(conditions, u" AND "_s);
     return ReadRows(*FPrepared->On(), sql, key);
 }
 
@@ -274,19 +278,19 @@ void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns
     static const Variant null = Variant::Null();
     const bool isNew = State() == dsInsert && row == CurrentRow();
     const std::vector<Variant> read = isNew ? std::vector<Variant>() : ValuesOf(row);
-    std::vector<const Variant*> values(static_cast<size_t>(FieldCount()), &null);
-    for (size_t i = 0; i < read.size(); ++i) values[i] = &read[i];
+    QVarLengthArray<const Variant*, 64> values(FieldCount(), &null);
+    for (size_t i = 0; i < read.size(); ++i) values[static_cast<qsizetype>(i)] = &read[i];
     for (const WriteColumn& column : columns) {
         const bool blob = column.Type == ftMemo || column.Type == ftBlob;
-        if (!blob) values[static_cast<size_t>(column.Column)] = &column.Value;
+        if (!blob) values[column.Column] = &column.Value;
     }
     std::vector<Variant> stored;
     if (written.Count() == 1) {
         stored.reserve(columns.size());
         for (size_t i = 0; i < columns.size(); ++i) {
             stored.push_back(written.ValueOrBytes(0, static_cast<int>(i)));
-            values[static_cast<size_t>(columns[i].Column)] = &stored.back();
+            values[columns[i].Column] = &stored.back();
         }
     }
-    Rows().SetValues(row, values);
+    Rows().SetValues(row, std::span<const Variant* const>(values.data(), static_cast<size_t>(values.size())));
 }

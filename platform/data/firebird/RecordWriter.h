@@ -27,7 +27,7 @@ struct Insertion {
 
 class RecordWriter {
   public:
-    // `columns` must outlive this.
+    // `table` and `columns` must outlive this.
     RecordWriter(Attachment& attachment, const UnicodeString& table, const std::vector<WriteColumn>& columns)
         : FAttachment(attachment), FTable(table), FColumns(columns) {}
 
@@ -60,7 +60,7 @@ class RecordWriter {
     std::vector<Variant> KeyOf(const RowStore& returned) const;
 
     Attachment& FAttachment;
-    UnicodeString FTable;
+    const UnicodeString& FTable;
     const std::vector<WriteColumn>& FColumns;
     bool FInDoubt = false;
     std::vector<Variant> FDoubtfulKey;
