@@ -19,15 +19,15 @@ constexpr size_t kGrowth = 4;
 
 }  // namespace
 
-// A row that fills more than half of a chunk gets one of its own size: an address only needs each row to begin
-// inside the first 2 MiB.
+// A row larger than a chunk gets one of its own size: an address only needs each row to begin inside the
+// first 1 MiB.
 void RowStore::AddChunk() {
-    const size_t row = FLayout.MaxBytes();
     FNextChunk = std::clamp(FNextChunk * kGrowth, kFirstChunk, kChunk);
-    FRoom = row > kChunk / 2 ? row : std::max(FNextChunk, row);
-    auto* memory = static_cast<uint8_t*>(FNextChunk > kFirstChunk ? TakePages(FRoom) : std::malloc(FRoom));
+    FRoom = std::max(FNextChunk, FLayout.MaxBytes());
+    auto* memory = static_cast<uint8_t*>(std::malloc(FRoom));
     if (!memory) throw std::bad_alloc();
     FChunks.emplace_back(memory);
+    if (FNextChunk > kFirstChunk) BringPages(memory, FNextChunk);
     FUsed = 0;
     FHeld += FRoom;
 }

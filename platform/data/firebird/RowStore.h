@@ -1,4 +1,4 @@
-// The rows of a dataset, packed one after the other in chunks of at most 2 MiB.
+// The rows of a dataset, packed one after the other in chunks of at most 1 MiB.
 //
 //     RowStore store(RowLayout(statement.Columns()));
 //     store.Append(message);
@@ -51,7 +51,7 @@ class RowStore {
     struct Freer {
         void operator()(uint8_t* memory) const;
     };
-    static constexpr int kChunkBits = 21;
+    static constexpr int kChunkBits = 20;
     static constexpr size_t kChunk = size_t{1} << kChunkBits;
 
     const uint8_t* At(uint64_t address) const {
