@@ -1,23 +1,20 @@
 #include "demo/FrmConexao.h"
 
 #include <algorithm>
+#include "demo/LinhasEntrada.h"
 
 #include "platform/ui/Application.h"
-#include "platform/ui/StdCtrls.h"
 #include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace entrada;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kWidth = 480;
 constexpr int kHalf = (kWidth - 3 * kMargin) / 2;
 constexpr int kPortWidth = 96;
 constexpr int kTestWidth = 120;
-constexpr int kLabelHeight = 18;
-constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
-constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
 constexpr int kRightHalf = 2 * kMargin + kHalf;
 
 QRect Place(int row, int left, int width) {
@@ -69,11 +66,7 @@ void TFrmConexao::CreateEdits() {
 
 TEdit* TFrmConexao::Add(UnicodeString TDadosConexao::*valor, const UnicodeString& name,
                         const UnicodeString& caption, const QRect& place) {
-    auto* label = NewControl<TLabel>(this, this, u"Lb"_s + name, place);
-    label->SetCaption(caption);
-    auto* edit = NewControl<TEdit>(this, this, name, place.translated(0, kLabelHeight));
-    edit->SetAccessibleName(UnicodeString(caption).remove(u'&'));
-    label->SetFocusControl(edit);
+    TEdit* edit = NewEdit(this, name, caption, place);
     FCampos.push_back({valor, edit});
     return edit;
 }

@@ -1,20 +1,17 @@
 #include "demo/FrmEntrada.h"
 
 #include "demo/Diario.h"
+#include "demo/LinhasEntrada.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/ListBoxes.h"
-#include "platform/ui/StdCtrls.h"
 #include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace entrada;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kWidth = 360;
-constexpr int kLabelHeight = 18;
-constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
-constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
 
 QRect Row(int row) {
     return {kMargin, kTop + row * kRowHeight, kWidth - 2 * kMargin, kEditHeight};
@@ -38,12 +35,8 @@ void TFrmEntrada::CreateControls() {
     const UnicodeString last = UltimoUsuario();
     FNome->SetItemIndex(std::max(0, FNome->Items()->IndexOf(last.isEmpty() ? u"Gerente"_s : last)));
     user->SetFocusControl(FNome);
-    auto* password = NewControl<TLabel>(this, this, u"LbSenha"_s, Row(1));
-    password->SetCaption(u"&Senha"_s);
-    FSenha = NewControl<TEdit>(this, this, u"EdtSenha"_s, Row(1).translated(0, kLabelHeight));
-    FSenha->SetAccessibleName(u"Senha"_s);
+    FSenha = NewEdit(this, u"EdtSenha"_s, u"&Senha"_s, Row(1));
     FSenha->SetPasswordChar(true);
-    password->SetFocusControl(FSenha);
     auto* hint = NewControl<TLabel>(this, this, u"LbDica"_s, Row(2));
     hint->SetCaption(u"No banco de exemplo as senhas são vazias."_s);
 }

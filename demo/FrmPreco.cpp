@@ -1,21 +1,18 @@
 #include "demo/FrmPreco.h"
 
+#include "demo/LinhasEntrada.h"
 #include "demo/ReciboRegras.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/Palette.h"
-#include "platform/ui/StdCtrls.h"
 #include "utils/Funcoes.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace entrada;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kWidth = 380;
 constexpr int kHalf = (kWidth - 3 * kMargin) / 2;
-constexpr int kLabelHeight = 18;
-constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
-constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
 constexpr int kLength = 12;
 constexpr int kCasas = 2;
 
@@ -49,15 +46,11 @@ void TFrmPreco::CreateControls() {
 
 TEdit* TFrmPreco::Add(const UnicodeString& name, const UnicodeString& caption, int column, int row) {
     const QRect place(kMargin + column * (kHalf + kMargin), kTop + row * kRowHeight, kHalf, kEditHeight);
-    auto* label = NewControl<TLabel>(this, this, u"Lb"_s + name, place);
-    label->SetCaption(caption);
-    auto* edit = NewControl<TEdit>(this, this, name, place.translated(0, kLabelHeight));
-    edit->SetAccessibleName(UnicodeString(caption).remove(u'&'));
+    TEdit* edit = NewEdit(this, name, caption, place);
     edit->SetMaxLength(kLength);
     edit->SetAlignment(taRightJustify);
     edit->OnKeyPress = [](TComponent*, WideChar& key) { OnlyNumbers(key, true); };
     edit->OnChange = [this](TComponent*) { ShowPrice(); };
-    label->SetFocusControl(edit);
     return edit;
 }
 

@@ -1,25 +1,22 @@
 #include "demo/FrmRecibo.h"
 
 #include "demo/FrmPreviaRecibo.h"
+#include "demo/LinhasEntrada.h"
 #include "platform/ui/Application.h"
 #include "platform/ui/ComCtrls.h"
 #include "platform/ui/DBGrid.h"
 #include "platform/ui/Palette.h"
-#include "platform/ui/StdCtrls.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace entrada;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kWidth = 560;
 constexpr int kLookupWidth = 28;
 constexpr int kBesideGap = 4;
 constexpr int kAmountWidth = 140;
 constexpr int kDateWidth = 132;
-constexpr int kLabelHeight = 18;
-constexpr int kRowHeight = kLabelHeight + kEditHeight + 13;
-constexpr int kTop = TFrmEnt_Master::kStripBottom + kMargin;
 
 constexpr int kNameLength = 80;
 constexpr int kAmountLength = 16;
@@ -58,12 +55,8 @@ void TFrmRecibo::CreateControls() {
 
 TEdit* TFrmRecibo::Add(const UnicodeString& name, const UnicodeString& caption, const QRect& place,
                        int length) {
-    auto* label = NewControl<TLabel>(this, this, u"Lb"_s + name, place);
-    label->SetCaption(caption);
-    auto* edit = NewControl<TEdit>(this, this, name, place.translated(0, kLabelHeight));
-    edit->SetAccessibleName(UnicodeString(caption).remove(u'&'));
+    TEdit* edit = NewEdit(this, name, caption, place);
     edit->SetMaxLength(length);
-    label->SetFocusControl(edit);
     return edit;
 }
 
