@@ -86,7 +86,7 @@ class TDataSet : public TComponent {
     // The bytes that the rows here hold.
     size_t MemoryUsed() const;
     // Brings all rows and writes them into a file, in place of an old one, in the format that RowsFile.h
-    // tells. A pending edit is left alone and not in it. EDatabaseError when not active, EUnreadableText,
+    // tells. A pending edit is left alone and not in it. EDatabaseError when not active,
     // EInOutError.
     void SaveToFile(const UnicodeString& path);
 
@@ -166,6 +166,7 @@ class TDataSet : public TComponent {
     Variant RowValue(int row, int column) const;
     // The same, but a text that cannot be read gives its bytes, a memo that cannot null.
     Variant RowValueOrBytes(int row, int column) const;
+    Variant SavedValue(int row, int column) const;
     // The record being edited as it may be stored already (EditBuffer.h).
     std::optional<std::vector<fichario::WriteColumn>>& Doubtful() const;
     // Whether there are controls that read a record as soon as it changes.

@@ -8,6 +8,7 @@
 //     }
 #pragma once
 #include <cstdint>
+#include <QStringView>
 #include <vector>
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/Types.h"
@@ -17,6 +18,9 @@ class EDatabaseError : public Exception {
   public:
     using Exception::Exception;
 };
+
+// What lists and paper show in the place of a stored text that cannot be read.
+constexpr QStringView kUnreadable = u"(ilegível)";
 
 // A stored text whose bytes form no characters. `Message` names the field.
 class EUnreadableText : public EDatabaseError {

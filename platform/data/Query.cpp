@@ -112,6 +112,9 @@ bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<C
             return false;
         }
         if (error.Has(kTransliteration) && FPrepared->Widen()) return OpenRows(rows, cursor, count);
+        if (error.Has(kTransliteration))
+            throw error.Saying(
+                u"Um texto guardado tem um caractere que o resultado da consulta não comporta."_s);
         if (!error.Has(kReadOnlyTransaction)) throw;
         WriteScope write(*attachment);
         read(write.Get(), std::numeric_limits<int>::max());

@@ -201,6 +201,15 @@ Variant TRowsReader::Read(const TRowsColumn& column) {
     }
 }
 
+// One value that cannot be read must not keep all the others from paper.
+Variant TDataSet::SavedValue(int row, int column) const {
+    try {
+        return RowValue(row, column);
+    } catch (const EUnreadableText&) {
+        return kUnreadable.toString();
+    }
+}
+
 void TDataSet::SaveToFile(const UnicodeString& path) {
     CheckActive();
     FetchAll();
@@ -212,7 +221,7 @@ void TDataSet::SaveToFile(const UnicodeString& path) {
     std::vector<Variant> values(FFields.size());
     for (int row = 0; row < RowCount(); ++row) {
         if (row == typed) continue;
-        for (size_t i = 0; i < values.size(); ++i) values[i] = RowValue(row, static_cast<int>(i));
+        for (size_t i = 0; i < values.size(); ++i) values[i] = SavedValue(row, static_cast<int>(i));
         writer.Add(values);
     }
     writer.Finish();

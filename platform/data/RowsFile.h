@@ -6,6 +6,8 @@
 //     std::vector<Variant> row;
 //     while (reader.Next(row)) Print(row);
 //
+// A stored text that cannot be read is written as "(ilegível)", as lists show it.
+//
 // The file, version 1; numbers have their low byte first, a text is its length in bytes (32 bits) and UTF-8:
 //
 //     "FICHROWS"  version (16 bits)  rows (64 bits)  columns (16 bits)

@@ -212,7 +212,7 @@ UnicodeString TField::PlainDisplayText() const {
         const Variant value = Value();
         return value.IsNull() ? UnicodeString() : FormatValue(value, true);
     } catch (const EUnreadableText&) {
-        return u"(ilegível)"_s;
+        return kUnreadable.toString();
     }
 }
 

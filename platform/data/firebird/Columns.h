@@ -23,6 +23,8 @@ enum class WireKind : uint8_t {
     NullTest  // a parameter of which only null or not counts
 };
 
+constexpr int kLongestVarying = 32765;  // bytes of text that a Varying holds at most
+
 constexpr bool IsText(WireKind kind) {
     return kind == WireKind::Text || kind == WireKind::Varying;
 }

@@ -42,6 +42,11 @@ qsizetype CharactersIn(QStringView text) {
     return std::count_if(text.begin(), text.end(), [](QChar c) { return !c.isLowSurrogate(); });
 }
 
+bool IsTooLong(const ColumnInfo& described, const UnicodeString& text, const QByteArray& bytes) {
+    if (IsText(described.Kind)) return CharactersIn(text) > described.Characters;
+    return described.Kind != WireKind::Blob && bytes.size() > kLongestText;
+}
+
 }  // namespace
 
 InputMessage::InputMessage(Attachment& attachment, const ColumnList& described,
@@ -65,10 +70,9 @@ InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& descri
     const TextEncoding encoding = IsText(described.Kind) ? described.Encoding : FAttachment.Encoding();
     const std::optional<QByteArray> bytes = EncodeText(encoding, text);
     const bool blob = described.Kind == WireKind::Blob;
-    const bool tooLong = IsText(described.Kind) && CharactersIn(text) > described.Characters;
     if (!bytes) {
         FMisfit = fichario::Misfit{place, FirstForeign(encoding, text), 0};
-    } else if (tooLong || (!blob && bytes->size() > kLongestText)) {
+    } else if (IsTooLong(described, text, *bytes)) {
         FMisfit = fichario::Misfit{
             place, {}, IsText(described.Kind) ? described.Characters : static_cast<int>(kLongestText)};
     } else if (described.Kind == WireKind::NullTest) {

@@ -1,5 +1,6 @@
 #include "platform/data/firebird/WideText.h"
 
+#include <algorithm>
 #include "platform/data/firebird/CharacterSets.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -9,28 +10,32 @@ namespace fichario {
 namespace {
 
 constexpr int kBytesOfCharacter = 4;
-constexpr int kMostCharacters = 32765 / kBytesOfCharacter;  // of a VARCHAR in UTF-8
+constexpr int kMostCharacters = kLongestVarying / kBytesOfCharacter;
 
 bool IsWidened(const ColumnInfo& column) {
     if (column.CharacterSet == kNoSet || column.CharacterSet == kOctetsSet) return false;
     switch (column.Kind) {
         case WireKind::Text:
-        case WireKind::Varying: return column.Characters <= kMostCharacters;
+        case WireKind::Varying: return true;
         case WireKind::Blob: return column.SubType == 1;
         default: return false;
     }
 }
 
+UnicodeString Utf8Of(const ColumnInfo& column, const UnicodeString& name) {
+    if (column.Kind == WireKind::Blob || column.Characters > kMostCharacters)
+        return u"CAST(%1 AS BLOB SUB_TYPE TEXT CHARACTER SET UTF8)"_s.arg(name);
+    return u"CAST(%1 AS VARCHAR(%2) CHARACTER SET UTF8)"_s.arg(name).arg(column.Characters);
+}
+
 // A CHAR loses its blanks: the bytes of its own would be filled up with zeros.
 UnicodeString WideItem(const ColumnInfo& column, const UnicodeString& name) {
     if (!IsWidened(column)) return name;
-    if (column.Kind == WireKind::Blob)
-        return u"CAST(CAST(%1 AS BLOB SUB_TYPE TEXT CHARACTER SET UTF8) AS BLOB SUB_TYPE BINARY)"_s.arg(name);
-    const UnicodeString wide =
-        u"CAST(%1 AS VARCHAR(%2) CHARACTER SET UTF8)"_s.arg(name).arg(column.Characters);
+    const UnicodeString wide = Utf8Of(column, name);
+    if (column.Kind == WireKind::Blob) return u"CAST(%1 AS BLOB SUB_TYPE BINARY)"_s.arg(wide);
     return u"CAST(%1 AS VARCHAR(%2) CHARACTER SET OCTETS)"_s
         .arg(column.Kind == WireKind::Text ? u"TRIM(TRAILING FROM %1)"_s.arg(wide) : wide)
-        .arg(column.Characters * kBytesOfCharacter);
+        .arg(std::min(column.Characters * kBytesOfCharacter, kLongestVarying));
 }
 
 }  // namespace

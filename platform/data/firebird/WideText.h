@@ -10,7 +10,7 @@
 namespace fichario {
 
 // What a statement selects to give `columns` wide, where each is named R.C1, R.C2 and so on. Columns without
-// a character set come as they are, and so do texts that are too long for it.
+// a character set come as they are. A text of more than 32765 bytes in UTF-8 fails its row.
 TStringArray WideItems(const ColumnList& columns);
 
 // `columns`, placed and encoded as a wide statement, which describes its own as `described`, gives them.
