@@ -92,7 +92,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     // CommitUpdates, so that it can be written again after a rollback; new records keep the keys they got.
     // EDatabaseError, EFDError; the record that could not be written is then the current one.
     void ApplyUpdates();
-    // What ApplyUpdates wrote is pending no more; nothing when records were changed since.
+    // What ApplyUpdates wrote is stored and pending no more; what was changed since stays so.
     void CommitUpdates();
     // Closes and opens the dataset: what is pending is lost.
     void CancelUpdates();
@@ -135,6 +135,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void LogPost();
     void LogDelete();
     void WriteDeleted();
+    void TakeApplied();
     void WritePending(int row);
     void Write(std::vector<fichario::WriteColumn>& columns);
     template <class Check>

@@ -23,7 +23,7 @@ void TFDCustomQuery::RequireNoPending() const {
 }
 
 void TFDCustomQuery::CommitUpdates() {
-    if (FLog && FLog->Applied()) FLog->Clear();
+    if (FLog) FLog->TakeStored();
 }
 
 void TFDCustomQuery::CancelUpdates() {
@@ -66,6 +66,7 @@ void TFDCustomQuery::ApplyUpdates() {
     CheckBrowseMode();
     if (!UpdatesPending()) return;
     RequireWriting();
+    FLog->ForgetApplied();
     WriteDeleted();
     for (int row = 0; row < Rows().Count(); ++row) {
         if (!FLog->Find(Rows().Address(row))) continue;
@@ -76,15 +77,24 @@ void TFDCustomQuery::ApplyUpdates() {
             throw;
         }
     }
-    FLog->SetApplied();
+    TakeApplied();
+}
+
+void TFDCustomQuery::TakeApplied() {
+    FLog->TakeDeletionsApplied();
+    for (int row = 0; row < Rows().Count(); ++row) {
+        const uint64_t address = Rows().Address(row);
+        if (FLog->Find(address)) FLog->TakeApplied(address, ValuesOf(row));
+    }
 }
 
 void TFDCustomQuery::WriteDeleted() {
-    for (const std::vector<Variant>& before : FLog->Deleted()) {
+    for (const PendingRow& deleted : FLog->Deleted()) {
+        if (deleted.New) continue;
         std::vector<WriteColumn> columns = TableColumns();
         for (WriteColumn& column : columns) {
             column.Write = false;
-            column.Value = column.OldValue = before[static_cast<size_t>(column.Column)];
+            column.Value = column.OldValue = deleted.Before[static_cast<size_t>(column.Column)];
         }
         RecordWriter(*FPrepared->On(), FColumnsTable, columns).Delete();
     }

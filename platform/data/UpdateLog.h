@@ -14,46 +14,41 @@
 namespace fichario {
 
 struct PendingRow {
-    bool New = false;             // the table does not have it yet
-    std::vector<Variant> Before;  // what its table holds, by column; empty for a new one
+    bool New = false;              // the table does not have it yet
+    std::vector<Variant> Before;   // what its table holds, by column; empty for a new one
+    std::vector<Variant> Applied;  // what was written of it last, in a transaction whose end is not known
+    bool ChangedSince = false;
 };
 
 class UpdateLog {
   public:
-    bool Empty() const { return FRows.empty() && FDeleted.empty(); }
+    bool Empty() const;
     void Clear() { *this = {}; }
-    // Everything in it was written to the table, and nothing changed since.
-    bool Applied() const { return FApplied; }
-    void SetApplied() { FApplied = true; }
 
     const PendingRow* Find(uint64_t address) const {
         const auto found = FRows.find(address);
         return found == FRows.end() ? nullptr : &found->second;
     }
-    // The rows that are to be deleted, as their table holds them.
-    const std::vector<std::vector<Variant>>& Deleted() const { return FDeleted; }
+    // The rows that are to be deleted; new ones among them were written, which may be undone.
+    const std::vector<PendingRow>& Deleted() const { return FDeleted; }
 
-    void TakeInserted(uint64_t address) {
-        FApplied = false;
-        FRows[address] = {true, {}};
-    }
+    void TakeInserted(uint64_t address) { FRows[address].New = true; }
     // A row moved from one place to another because it took new values; `before` are those it had.
-    void TakeChanged(uint64_t from, uint64_t to, std::vector<Variant> before) {
-        FApplied = false;
-        const auto known = FRows.extract(from);
-        FRows[to] = known.empty() ? PendingRow{false, std::move(before)} : std::move(known.mapped());
-    }
-    void TakeDeleted(uint64_t address, std::vector<Variant> before) {
-        FApplied = false;
-        const auto known = FRows.extract(address);
-        if (known.empty()) return FDeleted.push_back(std::move(before));
-        if (!known.mapped().New) FDeleted.push_back(known.mapped().Before);
-    }
+    void TakeChanged(uint64_t from, uint64_t to, std::vector<Variant> before);
+    void TakeDeleted(uint64_t address, std::vector<Variant> before);
+
+    // What was written is undone, and will be written again.
+    void ForgetApplied();
+    // The deletions, or the row with its new values, were written.
+    void TakeDeletionsApplied() { FDeletionsApplied = FDeleted.size(); }
+    void TakeApplied(uint64_t address, std::vector<Variant> values);
+    // What was written is stored: only what was changed since stays pending.
+    void TakeStored();
 
   private:
     std::unordered_map<uint64_t, PendingRow> FRows;
-    std::vector<std::vector<Variant>> FDeleted;
-    bool FApplied = false;
+    std::vector<PendingRow> FDeleted;
+    size_t FDeletionsApplied = 0;  // the first ones
 };
 
 }  // namespace fichario

@@ -183,6 +183,7 @@ TEST_F(Doubt, ARecordWithItemsIsSavedOnce) {
             items->Open();
             items->Append();
             items->FieldByName(u"N"_s)->SetAsInteger(501);
+            items->FieldByName(u"T"_s)->SetAsString(u"novo"_s);
             items->Post();
             FQuery->AfterPost = [items](TDataSet*) { items->ApplyUpdates(); };
             insert ? FQuery->Append() : FQuery->Edit();
@@ -200,10 +201,14 @@ TEST_F(Doubt, ARecordWithItemsIsSavedOnce) {
             if (kind != Answered) {
                 EXPECT_EQ(FQuery->State(), insert ? dsInsert : dsEdit);
                 EXPECT_EQ(FQuery->FieldByName(u"NM"_s)->AsString(), u"novo");
+                items->Edit();
+                items->FieldByName(u"T"_s)->SetAsString(u"outro"_s);
+                items->Post();
                 EXPECT_EQ(MessageOf(save), u"");
             }
             EXPECT_EQ(Names(), done);
-            EXPECT_EQ(Scalar(u"SELECT COUNT(*) FROM NUMEROS WHERE N > 500"_s), u"1");
+            EXPECT_EQ(Scalar(u"SELECT LIST(N || T) FROM NUMEROS WHERE N > 500"_s),
+                      kind == Answered ? u"501novo" : u"501outro");
             FQuery->AfterPost = nullptr;
             items->Free();
         }
