@@ -70,6 +70,21 @@ Variant FirstValue(Attachment& attachment, const RowStore& rows, bool wide) {
     return type == ftBlob ? Variant(bytes) : Variant(DecodeText(rows.Layout().Encoding(0), bytes));
 }
 
+// A stored character that the connection's set lacks fails its whole row: then it is read as UTF-8.
+Variant ReadScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& sql,
+                   const std::vector<Variant>& values) {
+    const ScannedSql scanned = ScanParams(sql);
+    const std::vector<InputValue> inputs = InputsFor(scanned, values);
+    try {
+        return FirstValue(*attachment, ReadRows(*attachment, scanned.Text, inputs, nullptr, 1), false);
+    } catch (const EFDError& error) {
+        if (!error.Has(kTransliteration)) throw;
+        PreparedQuery wide(attachment, sql);
+        if (!wide.Widen()) throw;
+        return FirstValue(*attachment, wide.Read(wide.Sql().Text, inputs), true);
+    }
+}
+
 }  // namespace
 
 TFDCustomConnection::TFDCustomConnection(TComponent* owner) : TComponent(owner) {}
@@ -117,6 +132,20 @@ const std::shared_ptr<Attachment>& TFDCustomConnection::RequireAttachment() {
     return FAttachment;
 }
 
+bool TFDCustomConnection::Revive(const EFDError& error, Use use, const std::shared_ptr<Attachment>& used) {
+    if (error.ConnectionUsable || error.BrokenOff || !used) return false;
+    if (used == FAttachment && InTransaction()) return false;
+    const CallKind lost = used->LostIn();
+    const bool nothingWritten = lost == CallKind::Start || lost == CallKind::Prepare;
+    if (use == Use::Reading ? lost == CallKind::Commit : used != FAttachment || !nothingWritten) return false;
+    try {
+        RequireAttachment();
+        return true;
+    } catch (const EFDError&) {
+        return false;  // the first error says what happened
+    }
+}
+
 void TFDCustomConnection::CreateDatabase() {
     Close();
     FAttachment = Attachment::Create(SettingsOf(FParams));
@@ -129,7 +158,7 @@ bool TFDCustomConnection::InTransaction() const {
 }
 
 void TFDCustomConnection::StartTransaction() {
-    RequireAttachment()->StartHost();
+    Lasting(Use::Writing, [&] { RequireAttachment()->StartHost(); });
 }
 
 void TFDCustomConnection::Commit() {
@@ -151,20 +180,11 @@ void TFDCustomConnection::EndTransaction(bool commit) {
 
 int TFDCustomConnection::ExecSQL(const UnicodeString& sql, const std::vector<Variant>& values) {
     const ScannedSql scanned = ScanParams(sql);
-    return static_cast<int>(ExecuteSql(*RequireAttachment(), scanned.Text, InputsFor(scanned, values)));
+    const std::vector<InputValue> inputs = InputsFor(scanned, values);
+    return Lasting(Use::Writing,
+                   [&] { return static_cast<int>(ExecuteSql(*RequireAttachment(), scanned.Text, inputs)); });
 }
 
-// A stored character that the connection's set lacks fails its whole row: then it is read as UTF-8.
 Variant TFDCustomConnection::ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values) {
-    const ScannedSql scanned = ScanParams(sql);
-    const std::shared_ptr<Attachment> attachment = RequireAttachment();
-    const std::vector<InputValue> inputs = InputsFor(scanned, values);
-    try {
-        return FirstValue(*attachment, ReadRows(*attachment, scanned.Text, inputs, nullptr, 1), false);
-    } catch (const EFDError& error) {
-        if (!error.Has(kTransliteration)) throw;
-        PreparedQuery wide(attachment, sql);
-        if (!wide.Widen()) throw;
-        return FirstValue(*attachment, wide.Read(wide.Sql().Text, inputs), true);
-    }
+    return Lasting(Use::Reading, [&] { return ReadScalar(RequireAttachment(), sql, values); });
 }

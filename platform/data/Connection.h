@@ -71,8 +71,24 @@ class TFDCustomConnection : public TComponent {
     // The connection was found lost; it opens anew with the next use.
     std::function<void(TFDCustomConnection*)> OnLost;
 
-    // The open connection, opened now when it is not. Internal to the data layer.
+    // The open connection, opened now when it is not. Internal to the data layer, as what follows.
     const std::shared_ptr<fichario::Attachment>& RequireAttachment();
+    enum class Use { Reading, Writing };
+    // What `work` gives. When it finds that the server has gone since the last use, but is there again, it is
+    // done once more on a new connection: if it reads, or has not written anything yet. Not in a host's
+    // transaction.
+    template <class Work>
+    decltype(auto) Lasting(Use use, Work work) {
+        const std::shared_ptr<fichario::Attachment> used = FAttachment;
+        try {
+            return work();
+        } catch (const EFDError& error) {
+            if (!Revive(error, use, used)) throw;
+        }
+        return work();
+    }
+    // Whether what failed so on `used` can be done once more, on the connection as it is now.
+    bool Revive(const EFDError& error, Use use, const std::shared_ptr<fichario::Attachment>& used);
 
   protected:
     ~TFDCustomConnection() override;

@@ -190,6 +190,7 @@ class TDataSet : public TComponent {
     void FetchUntil(int row);
     void RenewRows() const;
     std::vector<int> KeyColumns() const;
+    std::vector<Variant> CurrentKey() const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
     void Reload();
 

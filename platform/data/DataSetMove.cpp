@@ -42,12 +42,14 @@ bool TDataSet::IsEmpty() const {
 
 int TDataSet::FetchMore(int rows) {
     if (FAllFetched || rows <= 0) return 0;
-    const int before = RowCount();
+    const int before = RowCount(), result = FResult;
+    const std::vector<Variant> key = CurrentKey();
     FAllFetched = !DoFetch(rows);
-    if (FRow >= RowCount()) Settle(FRow);  // the rows were read anew and others deleted some
+    const bool anew = FResult != result;  // all rows were read again, and others may have changed some
+    if (anew && FRow >= 0) Settle(FindAgain(key, FRow, before));
     const int arrived = RowCount() - before;
-    if (auto* events = Events(); events && arrived != 0)
-        arrived < 0 ? events->DataSetChanged() : events->RowsArrived();
+    if (auto* events = Events(); events && (anew || arrived > 0))
+        anew ? events->DataSetChanged() : events->RowsArrived();
     return std::max(arrived, 0);
 }
 
@@ -178,12 +180,16 @@ int TDataSet::FindAgain(const std::vector<Variant>& key, int near, int loaded) {
     return near;
 }
 
+std::vector<Variant> TDataSet::CurrentKey() const {
+    std::vector<Variant> key;
+    if (FRow < 0 || FRow >= RowCount()) return key;
+    for (const int column : KeyColumns()) key.push_back(FRows->ValueOrBytes(FRow, column));
+    return key;
+}
+
 void TDataSet::Reload() {
     const int row = FRow, loaded = RowCount();
-    std::vector<Variant> key;
-    if (row >= 0) {
-        for (const int column : KeyColumns()) key.push_back(FRows->ValueOrBytes(row, column));
-    }
+    const std::vector<Variant> key = CurrentKey();
     FAllFetched = !DoOpen();
     Settle(row < 0 ? 0 : FindAgain(key, row, loaded));
 }

@@ -25,5 +25,6 @@ EFDError EFDError::Saying(const UnicodeString& message) const {
     error.Constraint = Constraint;
     error.SqlState = SqlState;
     error.ConnectionUsable = ConnectionUsable;
+    error.BrokenOff = BrokenOff;
     return error;
 }

@@ -52,6 +52,7 @@ class EFDError : public EDatabaseError {
     UnicodeString Constraint;
     UnicodeString SqlState;        // five characters, such as 23000
     bool ConnectionUsable = true;  // false: the connection is lost and must be opened anew
+    bool BrokenOff = false;        // the call was given up here: its time was over, or the user cancelled
 
   private:
     std::vector<int64_t> FCodes;

@@ -18,6 +18,8 @@ using namespace fichario;
 
 namespace {
 
+using Use = TFDCustomConnection::Use;
+
 constexpr int kFirstPage = 64;
 
 // Whether a search holds what some column's set lacks: no record can hold it either.
@@ -63,7 +65,7 @@ PreparedQuery& TFDCustomQuery::RequirePrepared() {
 }
 
 void TFDCustomQuery::Prepare() {
-    RequirePrepared();
+    RequireConnection().Lasting(Use::Reading, [this] { RequirePrepared(); });
 }
 
 UnicodeString TFDCustomQuery::MainTable() const {
@@ -77,7 +79,7 @@ void TFDCustomQuery::TakeColumns() {
 }
 
 void TFDCustomQuery::DoDescribe() {
-    RequirePrepared();
+    Prepare();
     TakeColumns();
 }
 
@@ -123,8 +125,15 @@ bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<C
     return cursor && !cursor->AtEnd();
 }
 
+// A statement that returns a row without a cursor may write.
 bool TFDCustomQuery::DoOpen() {
     RequireNoPending();
+    Prepare();
+    const Use use = FPrepared->HasCursor() ? Use::Reading : Use::Writing;
+    return RequireConnection().Lasting(use, [this] { return OpenOnce(); });
+}
+
+bool TFDCustomQuery::OpenOnce() {
     RequirePrepared();
     std::unique_ptr<RowStore> rows;
     std::unique_ptr<Cursor> cursor;
@@ -152,16 +161,22 @@ bool TFDCustomQuery::DoFetch(int rows) {
     try {
         FCursor->Fetch(Rows(), rows);
     } catch (const EFDError& error) {
-        const bool widen =
-            error.Has(kTransliteration) && State() == dsBrowse && !UpdatesPending() && FPrepared;
-        if (!widen || !(FPrepared->IsWide() || FPrepared->Widen())) throw;
-        return FetchWide(rows);
+        if (State() != dsBrowse || UpdatesPending() || !CanBeginAgain(error)) throw;
+        return FetchAgain(rows);
     }
     return !FCursor->AtEnd();
 }
 
-// The rows that are here come again: they must all be of one layout.
-bool TFDCustomQuery::FetchWide(int rows) {
+// Whether the rows can be had in another way than by the cursor that failed.
+bool TFDCustomQuery::CanBeginAgain(const EFDError& error) {
+    if (error.Has(kTransliteration)) return FPrepared && (FPrepared->IsWide() || FPrepared->Widen());
+    if (!RequireConnection().Revive(error, Use::Reading, FCursor->On())) return false;
+    RequirePrepared();
+    return true;
+}
+
+// The rows that are here come again: they must all be of one layout, and of one reading.
+bool TFDCustomQuery::FetchAgain(int rows) {
     const int wanted = rows > std::numeric_limits<int>::max() - RowCount() ? rows : RowCount() + rows;
     std::unique_ptr<RowStore> wide;
     std::unique_ptr<Cursor> cursor;
@@ -172,9 +187,11 @@ bool TFDCustomQuery::FetchWide(int rows) {
 }
 
 int TFDCustomQuery::DoCount() {
-    const PreparedQuery& prepared = RequirePrepared();
-    const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
-    return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
+    return RequireConnection().Lasting(Use::Reading, [this] {
+        const PreparedQuery& prepared = RequirePrepared();
+        const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
+        return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
+    });
 }
 
 QByteArray TFDCustomQuery::DoReadBlob(int64_t id) const {
@@ -183,13 +200,15 @@ QByteArray TFDCustomQuery::DoReadBlob(int64_t id) const {
 }
 
 int TFDCustomQuery::ExecSQL() {
-    const PreparedQuery& prepared = RequirePrepared();
-    if (prepared.HasCursor()) throw EDatabaseError(u"The statement returns rows; use Open"_s);
-    const UnicodeString sql = prepared.Sql().Text;
-    const std::vector<InputValue> values = Inputs();
-    const std::shared_ptr<Attachment> attachment = prepared.On();
-    FPrepared.reset();
-    return static_cast<int>(ExecuteSql(*attachment, sql, values));
+    return RequireConnection().Lasting(Use::Writing, [this] {
+        const PreparedQuery& prepared = RequirePrepared();
+        if (prepared.HasCursor()) throw EDatabaseError(u"The statement returns rows; use Open"_s);
+        const UnicodeString sql = prepared.Sql().Text;
+        const std::vector<InputValue> values = Inputs();
+        const std::shared_ptr<Attachment> attachment = prepared.On();
+        FPrepared.reset();
+        return static_cast<int>(ExecuteSql(*attachment, sql, values));
+    });
 }
 
 void TFDCustomQuery::ConnectionClosing() {

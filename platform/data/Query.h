@@ -120,8 +120,11 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void SQLChanged();
     fichario::PreparedQuery& RequirePrepared();
     void TakeColumns();
-    bool FetchWide(int rows);
+    bool OpenOnce();
+    bool CanBeginAgain(const EFDError& error);
+    bool FetchAgain(int rows);
     void RequireWriting();
+    void DeleteRecord();
     std::vector<fichario::InputValue> Inputs() const;
     bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor,
                   int count);

@@ -1,6 +1,7 @@
 // A query's records written to its table, and read again afterwards.
 #include <algorithm>
 #include <QVarLengthArray>
+#include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/Metadata.h"
@@ -113,9 +114,11 @@ void TFDCustomQuery::RequireWriting() {
 // again when it is first looked at, so that many posts in a row cost no more than their statements.
 void TFDCustomQuery::DoPost() {
     if (FLog) return LogPost();
-    RequireWriting();
-    std::vector<WriteColumn>& columns = WriteColumns();
-    Write(columns);
+    RequireConnection().Lasting(TFDCustomConnection::Use::Writing, [this] {
+        RequireWriting();
+        Write(WriteColumns());
+    });
+    const std::vector<WriteColumn>& columns = FTableColumns;
     if (Heard() || !FPrepared->On()->Host()) return RenewRow(CurrentRow(), columns);
     TakeValues(CurrentRow(), columns, {});
     Rows().SetOutdated(CurrentRow());
@@ -130,6 +133,10 @@ void TFDCustomQuery::DoRenew(int row) const {
 
 void TFDCustomQuery::DoDelete() {
     if (FLog) return LogDelete();
+    RequireConnection().Lasting(TFDCustomConnection::Use::Writing, [this] { DeleteRecord(); });
+}
+
+void TFDCustomQuery::DeleteRecord() {
     RequireWriting();
     std::vector<WriteColumn>& columns = WriteColumns();
     for (WriteColumn& column : columns) column.Write = false;

@@ -150,6 +150,7 @@ void Attachment::Call(CallKind kind, ClientBody body) {
     try {
         ClientCall(kind, FEncoding, body, {FHandle, FStatementTimeout, FLocal});
     } catch (const EFDError& error) {
+        if (FUsable && !error.ConnectionUsable) FLostIn = kind;
         FUsable = FUsable && error.ConnectionUsable;
         throw;
     }

@@ -49,6 +49,8 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     unsigned CharacterSet() const { return FCharacterSet; }
     // False once a call found the connection lost.
     bool Usable() const { return FUsable; }
+    // The call that found it so.
+    CallKind LostIn() const { return FLostIn; }
     // A client call with this connection's encoding; notices a lost connection.
     void Call(CallKind kind, ClientBody body);
     // The same for endings, which must not keep anybody waiting for a server that does not answer: true when
@@ -84,6 +86,7 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     TextEncoding FEncoding;
     unsigned FCharacterSet;
     bool FUsable = true;
+    CallKind FLostIn = CallKind::Attach;
     int FDefinitions = 0;
     std::shared_ptr<Transaction> FRead, FHost;
     std::vector<std::unique_ptr<Statement>> FIdle;  // oldest first

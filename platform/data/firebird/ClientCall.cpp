@@ -72,7 +72,9 @@ class CallWatch {
         Cancel(fb_cancel_enable);
     }
     EFDError Judged(const EFDError& error) const {
-        return FTimedOut ? error.Saying(u"O servidor não respondeu no tempo permitido."_s) : error;
+        EFDError judged = FTimedOut ? error.Saying(u"O servidor não respondeu no tempo permitido."_s) : error;
+        judged.BrokenOff = FAsked.has_value();
+        return judged;
     }
 
   private:

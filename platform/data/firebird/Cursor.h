@@ -28,6 +28,7 @@ class Cursor {
     // the data.
     int Fetch(RowStore& store, int rows);
     bool AtEnd() const { return !FHandle; }
+    const std::shared_ptr<Attachment>& On() const { return FAttachment; }
     const std::shared_ptr<Transaction>& InTransaction() const { return FTransaction; }
 
   private:

@@ -81,6 +81,7 @@ class Mortal : public ScriptTest {
 
 TEST_F(Mortal, LosesNothingWhenItDies) {
     const auto server = [&](const QStringList& a) { return Server(a[0]), QString(); };
+    const auto back = [&](const QStringList&) { return Server("kill"), Server("restart"), QString(); };
     const auto killAtCommit = [&](const QStringList&) {
         fichario::SetClientCallHook([&, killed = false](fichario::CallKind kind) mutable {
             if (kind == fichario::CallKind::Commit && !std::exchange(killed, true)) Server("kill");
@@ -96,7 +97,11 @@ TEST_F(Mortal, LosesNothingWhenItDies) {
     const auto down = [&](const QStringList& a) {
         return MessageOf([&] { Do(a); }).startsWith(u"lost: ") ? "yes" : "no";
     };
-    Run("queda", {{"Server", server}, {"KillAtCommit", killAtCommit}, {"Limit", limit}, {"Down", down}});
+    Run("queda", {{"Server", server},
+                  {"Back", back},
+                  {"KillAtCommit", killAtCommit},
+                  {"Limit", limit},
+                  {"Down", down}});
 }
 
 }  // namespace
