@@ -10,9 +10,9 @@
 // hear of everything through data sources and links (DataSource.h, DataLink.h).
 #pragma once
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 #include "platform/data/DataTypes.h"
 #include "platform/data/Errors.h"
@@ -143,7 +143,9 @@ class TDataSet : public TComponent {
     virtual void DoPost() = 0;  // writes the record being edited; renews its row or marks it outdated
     virtual void DoRenew(int row) const = 0;  // reads the record of an outdated row again; never throws
     virtual void DoDelete() = 0;              // deletes the current record on the server
-    virtual QByteArray DoReadBlob(int64_t id) const = 0;
+    // The content of a row's blob, which is not null; nothing when it has become null. The row is read again
+    // when it holds another one by now. EUnreadableText when that cannot be.
+    virtual std::optional<QByteArray> DoReadBlob(int row, int column) const = 0;
 
     // Takes over what the statement's columns are: keeps the fields whose name and class match, makes the
     // missing ones, frees those it made that no longer match. EDatabaseError for a field of the host's that
@@ -208,7 +210,8 @@ class TDataSet : public TComponent {
     void RemoveField(TField* field);
     TField* TakeField(const UnicodeString& name, TFieldType type);
     void DropUnmatched(const std::vector<TField*>& matched);
-    Variant BlobValue(int64_t id, int column) const;
+    Variant BlobValue(int row, int column) const;
+    std::optional<QByteArray> BlobBytes(int row, int column) const;
     Variant ColumnValue(const TField* field) const;
     Variant OldColumnValue(const TField* field) const;
     void StoreColumn(TField* field, Variant&& value);
@@ -239,7 +242,8 @@ class TDataSet : public TComponent {
     bool FBof = true;
     bool FEof = true;
     bool FAllFetched = true;
-    mutable std::unordered_map<int64_t, QByteArray> FBlobs;  // contents read lately, by identity
+    // Contents read lately, by the row's place and the column.
+    mutable std::map<std::pair<uint64_t, int>, QByteArray> FBlobs;
 };
 
 // A scope in which the dataset's fields read from `row`, one of the rows that are here, without moving: for

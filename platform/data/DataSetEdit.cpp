@@ -112,10 +112,8 @@ void TDataSet::Cancel() {
     Call(AfterCancel);
 }
 
-// Blobs are read anew: the server may give the identity of one that went to another.
 void TDataSet::EndEditing() {
     FEdits->Clear();
-    FBlobs.clear();
     SetState(dsBrowse);
     if (auto* events = Events()) events->DataSetChanged();
 }

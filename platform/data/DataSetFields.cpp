@@ -119,11 +119,9 @@ void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDes
 Variant TDataSet::RowValue(int row, int column) const {
     if (FRows->IsOutdated(row)) DoRenew(row);
     try {
-        if (!FRows->Layout().IsBlob(column)) return FRows->Value(row, column);
-        const Variant id = FRows->Value(row, column);
-        return id.IsNull() ? id : BlobValue(id.ToInt64(), column);
-    } catch (const EUnreadableText&) {
-        throw EUnreadableText(FieldOfColumn(column)->DisplayLabel());
+        return FRows->Layout().IsBlob(column) ? BlobValue(row, column) : FRows->Value(row, column);
+    } catch (const EUnreadableText& error) {
+        throw EUnreadableText(FieldOfColumn(column)->DisplayLabel(), error.Reason);
     }
 }
 
@@ -135,17 +133,24 @@ Variant TDataSet::RowValueOrBytes(int row, int column) const {
     }
 }
 
-Variant TDataSet::BlobValue(int64_t id, int column) const {
-    auto known = FBlobs.find(id);
-    if (known == FBlobs.end()) {
-        if (FBlobs.size() >= kBlobsKept) FBlobs.clear();
-        known = FBlobs.emplace(id, DoReadBlob(id)).first;
-    }
-    if (FRows->Layout().Type(column) == ftBlob) return known->second;
-    std::optional<UnicodeString> text =
-        fichario::DecodeExact(FRows->Layout().Encoding(column), known->second);
+Variant TDataSet::BlobValue(int row, int column) const {
+    const std::optional<QByteArray> bytes = BlobBytes(row, column);
+    if (!bytes) return Variant::Null();
+    if (FRows->Layout().Type(column) == ftBlob) return *bytes;
+    std::optional<UnicodeString> text = fichario::DecodeExact(FRows->Layout().Encoding(column), *bytes);
     if (!text) throw EUnreadableText();
     return *std::move(text);
+}
+
+// Kept by the place of the row's bytes, which is another one once the row was read again.
+std::optional<QByteArray> TDataSet::BlobBytes(int row, int column) const {
+    if (FRows->Value(row, column).IsNull()) return std::nullopt;
+    const auto known = FBlobs.find({FRows->Address(row), column});
+    if (known != FBlobs.end()) return known->second;
+    const std::optional<QByteArray> bytes = DoReadBlob(row, column);
+    if (FBlobs.size() >= kBlobsKept) FBlobs.clear();
+    if (bytes) FBlobs.insert_or_assign({FRows->Address(row), column}, *bytes);
+    return bytes;
 }
 
 Variant TDataSet::ColumnValue(const TField* field) const {

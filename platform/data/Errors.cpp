@@ -4,9 +4,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-EUnreadableText::EUnreadableText(const UnicodeString& label)
-    : EDatabaseError(u"O texto guardado%1 não pode ser lido: há bytes que não formam caracteres."_s.arg(
-          label.isEmpty() ? UnicodeString() : u" no campo \"%1\""_s.arg(label))) {}
+EUnreadableText::EUnreadableText(const UnicodeString& label, const UnicodeString& reason)
+    : EDatabaseError(u"O texto guardado%1 não pode ser lido: %2."_s.arg(
+          label.isEmpty() ? UnicodeString() : u" no campo \"%1\""_s.arg(label),
+          reason.isEmpty() ? u"há bytes que não formam caracteres"_s : reason)),
+      Reason(reason) {}
 
 EFDError::EFDError(const UnicodeString& message, std::vector<int64_t> codes)
     : EDatabaseError(message), FCodes(std::move(codes)) {}

@@ -22,11 +22,13 @@ class EDatabaseError : public Exception {
 // What lists and paper show in the place of a stored text that cannot be read.
 constexpr QStringView kUnreadable = u"(ilegível)";
 
-// A stored text whose bytes form no characters. `Message` names the field.
+// A stored text whose bytes form no characters, or that another user has just taken away. `Message` names the
+// field.
 class EUnreadableText : public EDatabaseError {
   public:
-    // `label` empty: the field is not known.
-    explicit EUnreadableText(const UnicodeString& label = {});
+    // `label` empty: the field is not known. `reason` completes the sentence; empty: the bytes.
+    explicit EUnreadableText(const UnicodeString& label = {}, const UnicodeString& reason = {});
+    UnicodeString Reason;
 };
 
 // A failure that the database client or server reported. `Message` is a Portuguese sentence that says what to

@@ -4,7 +4,6 @@
 #include <limits>
 #include "platform/data/Connection.h"
 #include "platform/data/Field.h"
-#include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/ErrorCodes.h"
@@ -52,7 +51,7 @@ void TFDCustomQuery::SQLChanged() {
 }
 
 // When it cannot be prepared anew, what is known of the statement before stays: rows of it may be here.
-PreparedQuery& TFDCustomQuery::RequirePrepared() {
+PreparedQuery& TFDCustomQuery::RequirePrepared() const {
     const std::shared_ptr<Attachment>& attachment = RequireConnection().RequireAttachment();
     if (!FPrepared || FPrepared->On() != attachment) {
         auto prepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
@@ -192,11 +191,6 @@ int TFDCustomQuery::DoCount() {
         const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
         return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
     });
-}
-
-QByteArray TFDCustomQuery::DoReadBlob(int64_t id) const {
-    const std::shared_ptr<Attachment> attachment = RequireConnection().RequireAttachment();
-    return ReadBlob(*attachment, *attachment->Reading(), id, FPrepared && FPrepared->IsWide());
 }
 
 int TFDCustomQuery::ExecSQL() {

@@ -110,7 +110,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void DoPost() override;
     void DoRenew(int row) const override;
     void DoDelete() override;
-    QByteArray DoReadBlob(int64_t id) const override;
+    std::optional<QByteArray> DoReadBlob(int row, int column) const override;
     void ConnectionClosing() override;
     void TransactionEnding() override;
     UnicodeString MainTable() const override;
@@ -118,7 +118,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
   private:
     friend class fichario::TogetherSave;
     void SQLChanged();
-    fichario::PreparedQuery& RequirePrepared();
+    fichario::PreparedQuery& RequirePrepared() const;
     void TakeColumns();
     bool OpenOnce();
     bool CanBeginAgain(const EFDError& error);
@@ -150,19 +150,25 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     bool Holds(const fichario::RowStore& found, int place, const fichario::WriteColumn& column) const;
     void RenewRow(int row, const std::vector<fichario::WriteColumn>& columns) const;
     bool ReadAgain(int row, const std::vector<fichario::WriteColumn>& columns) const;
+    fichario::RowStore ReadKeyed(const std::vector<fichario::WriteColumn>& columns) const;
+    std::vector<fichario::WriteColumn> KeyedColumns(int row) const;
+    std::optional<QByteArray> BlobIfHeld(int row, int column) const;
+    bool HasKey() const;
+    bool StillHolds(int row, int column) const;
+    void RenewForBlob(int row) const;
     fichario::RowStore ReadWritten(const std::vector<fichario::WriteColumn>& columns) const;
     void TakeValues(int row, const std::vector<fichario::WriteColumn>& columns,
                     const fichario::RowStore& written) const;
 
     TStringList FSQL;
     TFDParams FParams;
-    std::unique_ptr<fichario::PreparedQuery> FPrepared;
+    mutable std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
     // The table being written and its columns, kept from one record to the next.
     mutable UnicodeString FColumnsTable;
     mutable std::vector<fichario::WriteColumn> FTableColumns;
     mutable int FColumnsVersion = -1;
-    bool FFits = false;                         // the rows here have the columns that the statement gives now
+    mutable bool FFits = false;                 // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
     bool FRemember = false;                     // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;

@@ -126,9 +126,14 @@ void TFDCustomQuery::DoPost() {
 
 // Only the key matters: all else is read.
 void TFDCustomQuery::DoRenew(int row) const {
+    RenewRow(row, KeyedColumns(row));
+}
+
+// The table's columns with the values of a row.
+std::vector<WriteColumn> TFDCustomQuery::KeyedColumns(int row) const {
     std::vector<WriteColumn> columns = TableColumns();
     for (WriteColumn& column : columns) column.Value = Rows().ValueOrBytes(row, column.Column);
-    RenewRow(row, columns);
+    return columns;
 }
 
 void TFDCustomQuery::DoDelete() {
@@ -244,8 +249,16 @@ void TFDCustomQuery::RenewRow(int row, const std::vector<WriteColumn>& columns) 
     }
 }
 
-// Runs the statement for this record alone, so that computed and joined columns are right too.
 bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns) const {
+    const RowStore found = ReadKeyed(columns);
+    if (found.Count() != 1 || !(found.Layout() == Rows().Layout())) return false;
+    Rows().CopyRow(row, found, 0);
+    return true;
+}
+
+// Runs the statement for this record alone, so that computed and joined columns are right too; no rows when
+// it cannot be run so.
+RowStore TFDCustomQuery::ReadKeyed(const std::vector<WriteColumn>& columns) const {
     const SqlShape& shape = FPrepared->Shape();
     TStringArray names;
     std::vector<InputValue> key;
@@ -254,13 +267,10 @@ bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns)
         names.push_back(column.Name);
         key.emplace_back(column.Value, column.Type);
     }
-    if (names.empty() || !shape.IsPlain() || FColumnsTable != shape.MainTable()) return false;
+    if (names.empty() || !shape.IsPlain() || FColumnsTable != shape.MainTable()) return {};
     std::vector<InputValue> values = Inputs();
     values.insert(values.begin() + shape.ParamsBeforeWhere(), key.begin(), key.end());
-    const RowStore found = FPrepared->Read(shape.KeyedText(names), values);
-    if (found.Count() != 1 || !(found.Layout() == Rows().Layout())) return false;
-    Rows().CopyRow(row, found, 0);
-    return true;
+    return FPrepared->Read(shape.KeyedText(names), values);
 }
 
 // The record's columns of its own table: for one that no longer is among the statement's rows.

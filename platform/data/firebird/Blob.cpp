@@ -90,4 +90,9 @@ QByteArray ReadBlob(Attachment& attachment, Transaction& transaction, int64_t id
     return bytes;
 }
 
+// The identity begins with the number of the table whose record holds it.
+bool IsTemporaryBlob(int64_t id) {
+    return (QuadOf(id).gds_quad_high & 0xFFFF) == 0;
+}
+
 }  // namespace fichario

@@ -11,4 +11,7 @@ int64_t WriteBlob(Attachment& attachment, Transaction& transaction, const QByteA
 // The blob's content, a text in the connection's character set unless it is read `asIs`. EFDError.
 QByteArray ReadBlob(Attachment& attachment, Transaction& transaction, int64_t id, bool asIs = false);
 
+// Whether the statement made it, as CAST and LIST do, instead of finding it in a record.
+bool IsTemporaryBlob(int64_t id);
+
 }  // namespace fichario

@@ -9,6 +9,7 @@ constexpr int64_t kConnectionLost = 335544856;       // the server or somebody o
 
 constexpr int64_t kTransliteration = 335544565;  // a character that one of two character sets lacks
 constexpr int64_t kInvalidRole = 335545091;      // the role does not exist or is not granted
+constexpr int64_t kNoBlob = 335544329;           // nothing has this identity (any more)
 constexpr int64_t kNotValid = 335544347;         // a value that a column may not have, such as a missing one
 
 }  // namespace fichario
