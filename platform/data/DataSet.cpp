@@ -39,6 +39,7 @@ void TDataSet::SetActive(bool active) {
 void TDataSet::Open() {
     if (Active()) return;
     Call(BeforeOpen);
+    if (Active()) return;  // the handler has opened it
     FAllFetched = !DoOpen();
     FState = dsBrowse;
     Settle(0);
@@ -52,6 +53,12 @@ void TDataSet::Open() {
 void TDataSet::Close() {
     if (!Active()) return;
     Call(BeforeClose);
+    if (!Active()) return;
+    Drop();
+    Call(AfterClose);
+}
+
+void TDataSet::Drop() {
     FState = dsInactive;
     DoClose();
     SetRows(std::make_unique<fichario::RowStore>());
@@ -59,7 +66,6 @@ void TDataSet::Close() {
     FRow = -1;
     FBof = FEof = FAllFetched = true;
     if (auto* events = Events()) events->ActiveChanged();
-    Call(AfterClose);
 }
 
 void TDataSet::SetRows(std::unique_ptr<fichario::RowStore> rows) {

@@ -33,6 +33,14 @@ struct TypedRecord;
 struct WriteColumn;
 }  // namespace fichario
 
+// A record to come back to. Empty for none.
+struct TBookmark {
+    std::vector<Variant> Key;
+    int Result = -1;  // and without a key, the row's place in that result
+    uint64_t Place = 0;
+    int Row = -1;  // where it was
+};
+
 class TDataSet : public TComponent {
   public:
     explicit TDataSet(TComponent* owner);
@@ -67,8 +75,14 @@ class TDataSet : public TComponent {
     // The current record's number from 1; 0 when there is none.
     int RecNo() const { return FRow + 1; }
     // How many records the statement has, those not yet fetched included: free when all rows are here, else
-    // one count on the server.
+    // one count on the server, or by reading to the end where the statement cannot be counted.
     int RecordCount();
+    // The current record, by its key, or, in a dataset without one, good until the next Open or Refresh.
+    TBookmark GetBookmark() const;
+    // Whether it is among the rows that are here.
+    bool BookmarkValid(const TBookmark& bookmark) const;
+    // EDatabaseError when it is not.
+    void GotoBookmark(const TBookmark& bookmark);
     // Goes to the first record whose fields equal the values.
     //   keyFields  one field name, or several separated by ';'
     //   values     one value, or an array with one for each field
@@ -126,6 +140,7 @@ class TDataSet : public TComponent {
     bool ControlsDisabled() const { return FDisabled > 0; }
 
     // ---- events ----
+    // What a handler of a Before… event has closed, or brought to another state, goes no further.
     std::function<void(TDataSet*)> BeforeOpen, AfterOpen, BeforeClose, AfterClose, BeforeInsert, AfterInsert,
         BeforeEdit, AfterEdit, BeforePost, AfterPost, BeforeCancel, AfterCancel, BeforeDelete, AfterDelete,
         BeforeRefresh, AfterRefresh, AfterScroll, OnNewRecord;
@@ -140,6 +155,8 @@ class TDataSet : public TComponent {
     virtual void DoClose() = 0;          // drops the result; never throws
     virtual bool DoFetch(int rows) = 0;  // appends up to `rows` to Rows(); false at the end of the data
     virtual int DoCount() = 0;           // counts on the server
+    virtual bool DoHolds(const std::vector<Variant>& key) = 0;  // whether a record of that key is among the
+                                                                // statement's; false when nobody can tell
     virtual void DoPost() = 0;  // writes the record being edited; renews its row or marks it outdated
     virtual void DoRenew(int row) const = 0;  // reads the record of an outdated row again; never throws
     virtual void DoDelete() = 0;              // deletes the current record on the server
@@ -156,6 +173,8 @@ class TDataSet : public TComponent {
     int CurrentRow() const { return FRow; }
     // Another number whenever the fields may tell something else of their columns.
     int FieldsVersion() const { return FFieldsVersion; }
+    // The columns of the key, in their order.
+    std::vector<int> KeyColumns() const;
     // The field on a column of the rows.
     TField* FieldOfColumn(int column) const { return FFields[static_cast<size_t>(column)]; }
     // The value being edited, when it was set; the row's own otherwise; blobs with their content.
@@ -191,14 +210,16 @@ class TDataSet : public TComponent {
     void Scrolled();
     void FetchUntil(int row);
     void RenewRows() const;
-    std::vector<int> KeyColumns() const;
     std::vector<Variant> CurrentKey() const;
+    int FindKey(const std::vector<Variant>& key, int near, int first) const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
+    int RowOf(const TBookmark& bookmark) const;
     void Reload();
 
     // Editing (DataSetEdit.cpp)
     void BeginInsert(bool atEnd);
     void DropInserted();
+    void FetchInPlace(int row);
     void EndEditing();
     void CheckEditing() const;
     fichario::TypedRecord Typed() const;
@@ -208,6 +229,7 @@ class TDataSet : public TComponent {
     // Fields (DataSetFields.cpp)
     void AddField(TField* field);
     void RemoveField(TField* field);
+    void FieldFreed(TField* field);
     TField* TakeField(const UnicodeString& name, TFieldType type);
     void DropUnmatched(const std::vector<TField*>& matched);
     Variant BlobValue(int row, int column) const;
@@ -218,6 +240,7 @@ class TDataSet : public TComponent {
     void FieldsChanged();
     void AskFocus(TField* field);
 
+    void Drop();
     void SetState(TDataSetState state);
     void Call(const TEvent& event);
     // Null when nobody is to hear of a change.

@@ -51,6 +51,7 @@ void TDataSet::Insert() {
 void TDataSet::BeginInsert(bool atEnd) {
     CheckBrowseMode();
     Call(BeforeInsert);
+    if (FState != dsBrowse) return;
     FetchAll();
     FRowBefore = FRow;
     FRow = atEnd || FRow < 0 ? RowCount() : FRow;
@@ -61,10 +62,11 @@ void TDataSet::BeginInsert(bool atEnd) {
     try {
         Call(OnNewRecord);
     } catch (...) {
-        DropInserted();
-        FState = dsBrowse;
+        if (FState == dsInsert) DropInserted();
+        if (FState == dsInsert) FState = dsBrowse;
         throw;
     }
+    if (FState != dsInsert) return;
     FEdits->TakeDefaults();
     if (auto* events = Events()) {
         events->EditingChanged();
@@ -85,6 +87,7 @@ void TDataSet::Edit() {
     CheckActive();
     if (FRow < 0) return Insert();
     Call(BeforeEdit);
+    if (FState != dsBrowse) return;
     FEdits->Clear();
     SetState(dsEdit);
     if (auto* events = Events()) events->RecordChanged(nullptr);
@@ -98,6 +101,7 @@ void TDataSet::Post() {
     if (!Editing()) return;
     UpdateRecord();
     Call(BeforePost);
+    if (!Editing()) return;
     if (FKeepPosted) *std::exchange(FKeepPosted, nullptr) = Typed();
     if (FState == dsInsert || Modified()) DoPost();
     EndEditing();
@@ -107,6 +111,7 @@ void TDataSet::Post() {
 void TDataSet::Cancel() {
     if (!Editing()) return;
     Call(BeforeCancel);
+    if (!Editing()) return;
     if (FState == dsInsert) DropInserted();
     EndEditing();
     Call(AfterCancel);
@@ -148,11 +153,25 @@ void TDataSet::Delete() {
     if (FState == dsInsert) return Cancel();
     if (FRow < 0) throw EDatabaseError(u"Cannot perform this operation on an empty dataset"_s);
     Call(BeforeDelete);
+    if (FRow < 0) return;
     DoDelete();
-    FRows->Remove(FRow);
-    FetchUntil(FRow);
-    Settle(FRow);
+    const int row = FRow;
+    FRows->Remove(row);
+    FEdits->Clear();
+    Settle(row);
+    FetchInPlace(row);
     EndEditing();
     Call(AfterDelete);
     if (FRow >= 0) Call(AfterScroll);
+}
+
+// The record that comes in the place of a deleted one. The record is deleted: a failure to fetch must not
+// look like a failure to delete, and shows at the next call.
+void TDataSet::FetchInPlace(int row) {
+    try {
+        FetchUntil(row);
+    } catch (const EFDError&) {
+        return;
+    }
+    Settle(row);
 }

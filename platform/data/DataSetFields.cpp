@@ -50,6 +50,12 @@ void TDataSet::RemoveField(TField* field) {
     events->FieldGone(field);
 }
 
+// The others would read from columns that are not theirs.
+void TDataSet::FieldFreed(TField* field) {
+    if (Active()) Drop();
+    RemoveField(field);
+}
+
 void TDataSet::FieldsChanged() {
     ++FFieldsVersion;
     if (auto* events = Events()) events->ActiveChanged();
@@ -95,7 +101,10 @@ void TDataSet::DropUnmatched(const std::vector<TField*>& matched) {
     for (TField* field : gone) {
         if (!field->FAutomatic) throw EDatabaseError(u"Field '%1' not found"_s.arg(field->FFieldName));
     }
-    for (TField* field : gone) field->Free();
+    for (TField* field : gone) {
+        RemoveField(field);
+        field->Free();
+    }
 }
 
 void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDescription>& described) {

@@ -150,42 +150,7 @@ bool TDataSet::Locate(const UnicodeString& keyFields, const Variant& values, TLo
     return true;
 }
 
-// ---- finding a record again ----
-
-std::vector<int> TDataSet::KeyColumns() const {
-    std::vector<int> columns;
-    for (int i = 0; i < FieldCount(); ++i) {
-        if (FieldOfColumn(i)->ProviderFlags() & pfInKey) columns.push_back(i);
-    }
-    return columns;
-}
-
-// The row with that key among the first `loaded` rows, looked for from `near` outwards; `near` when there is
-// none.
-int TDataSet::FindAgain(const std::vector<Variant>& key, int near, int loaded) {
-    FetchUntil(loaded - 1);
-    const std::vector<int> columns = KeyColumns();
-    const auto matches = [&](int row) {
-        if (row < 0 || row >= RowCount()) return false;
-        for (size_t i = 0; i < columns.size(); ++i) {
-            if (!(FRows->ValueOrBytes(row, columns[i]) == key[i])) return false;
-        }
-        return true;
-    };
-    if (columns.empty() || columns.size() != key.size()) return near;
-    for (int distance = 0; distance < RowCount(); ++distance) {
-        if (matches(near - distance)) return near - distance;
-        if (matches(near + distance)) return near + distance;
-    }
-    return near;
-}
-
-std::vector<Variant> TDataSet::CurrentKey() const {
-    std::vector<Variant> key;
-    if (FRow < 0 || FRow >= RowCount()) return key;
-    for (const int column : KeyColumns()) key.push_back(FRows->ValueOrBytes(FRow, column));
-    return key;
-}
+// ---- refreshing ----
 
 void TDataSet::Reload() {
     const int row = FRow, loaded = RowCount();

@@ -71,6 +71,7 @@ bool RowMatcher::Add(const TField& field, const RowLayout& layout, const Variant
     try {
         if (FPartial || layout.IsText(key.Column)) return AddText(key, layout, value.ToText());
         key.Value = ExactMoment(field.Converted(value));
+        if (value.IsNumber() && !(key.Value == value)) return false;  // it was rounded
     } catch (const EConvertError&) {
         return false;
     }

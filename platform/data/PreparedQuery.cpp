@@ -54,9 +54,20 @@ StatementLease PreparedQuery::First(const UnicodeString& sql) {
 void PreparedQuery::Learn() {
     if (FShape.IsJoin()) FStatement->DescribeAliases();
     FColumns = FStatement->Columns();
+    ForgetForeignTables();
     FLayout = RowLayout(FColumns);
     FInputs = FStatement->Inputs();
     FHasCursor = FStatement->HasCursor();
+}
+
+// The server tells the table inside a SELECT among the columns, and that of a UNION's first part.
+void PreparedQuery::ForgetForeignTables() {
+    const int count = static_cast<int>(FColumns.size());
+    for (int i = 0; i < count; ++i) {
+        if (!FShape.IsUnion() && !FShape.IsSelected(i, count)) continue;
+        ColumnInfo& column = FColumns[static_cast<size_t>(i)];
+        column.BaseTable = column.BaseColumn = column.BaseAlias = UnicodeString();
+    }
 }
 
 StatementLease PreparedQuery::Take() {
@@ -105,6 +116,7 @@ TFieldDescription PreparedQuery::Describe(const ColumnInfo& column, const Unicod
     description.Largest = LargestOf(column);
     description.BaseColumn = column.BaseColumn;
     description.BaseTable = column.BaseTable;
+    description.ReadOnly = !table.isEmpty() && !IsOf(column, table);
     if (!IsOf(column, table)) return description;
 
     const TableInfo& known = FAttachment->Tables().Table(table);

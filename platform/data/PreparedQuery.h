@@ -47,6 +47,7 @@ class PreparedQuery {
   private:
     StatementLease First(const UnicodeString& sql);
     void Learn();
+    void ForgetForeignTables();
     void PrepareWide();
     TFieldDescription Describe(const ColumnInfo& column, const UnicodeString& table) const;
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <limits>
+#include <QScopeGuard>
+#include <utility>
 #include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/firebird/CharacterSets.h"
@@ -44,8 +46,17 @@ TFDCustomQuery::~TFDCustomQuery() {
 
 // ---- preparing ----
 
+// A handler may keep the dataset open: the text then counts once it is closed.
 void TFDCustomQuery::SQLChanged() {
+    FTextChanged = true;
+    const auto taken = qScopeGuard([this] {
+        if (!Active()) TakeText();
+    });
     Close();
+}
+
+void TFDCustomQuery::TakeText() {
+    if (!std::exchange(FTextChanged, false)) return;
     FPrepared.reset();
     FParams.SetNames(ScanParams(FSQL.Text()).Names);
 }
@@ -146,12 +157,19 @@ bool TFDCustomQuery::OpenOnce() {
         throw EDatabaseError(u"The statement returns no rows; use ExecSQL"_s);
     }
     TakeColumns();
-    SetRows(std::move(rows));
-    FCursor = std::move(cursor);
+    TakeRows(std::move(rows), std::move(cursor));
     return more;
 }
 
+void TFDCustomQuery::TakeRows(std::unique_ptr<RowStore> rows, std::unique_ptr<Cursor> cursor) {
+    SetRows(std::move(rows));
+    FCursor = std::move(cursor);
+    FReadIn = FCursor ? FCursor->InTransaction() : nullptr;
+    FReadAgainIn.clear();
+}
+
 void TFDCustomQuery::DoClose() {
+    TakeText();
     FCursor.reset();
     if (FLog) FLog->Clear();
 }
@@ -180,17 +198,25 @@ bool TFDCustomQuery::FetchAgain(int rows) {
     std::unique_ptr<RowStore> wide;
     std::unique_ptr<Cursor> cursor;
     const bool more = OpenRows(wide, cursor, wanted);
-    SetRows(std::move(wide));
-    FCursor = std::move(cursor);
+    TakeRows(std::move(wide), std::move(cursor));
     return more;
 }
 
+// Some statements cannot stand in a FROM.
 int TFDCustomQuery::DoCount() {
-    return RequireConnection().Lasting(Use::Reading, [this] {
-        const PreparedQuery& prepared = RequirePrepared();
-        const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
-        return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
-    });
+    try {
+        return RequireConnection().Lasting(Use::Reading, [this] { return CountOnServer(); });
+    } catch (const EFDError& error) {
+        if (!error.Has(kSqlError)) throw;
+    }
+    FetchAll();
+    return RowCount() - (State() == dsInsert ? 1 : 0);
+}
+
+int TFDCustomQuery::CountOnServer() {
+    const PreparedQuery& prepared = RequirePrepared();
+    const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
+    return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
 }
 
 int TFDCustomQuery::ExecSQL() {

@@ -9,6 +9,7 @@
 // Records can be written when the statement is a single SELECT whose main table (the first of FROM) has a key
 // among the columns: changed columns of that table go to it, and the record is then read again.
 #pragma once
+#include <map>
 #include <memory>
 #include <optional>
 #include "platform/data/DataSet.h"
@@ -20,6 +21,7 @@ namespace fichario {
 class Cursor;
 class PreparedQuery;
 class TogetherSave;
+class Transaction;
 class UpdateLog;
 struct InputValue;
 struct WriteColumn;
@@ -107,6 +109,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void DoClose() override;
     bool DoFetch(int rows) override;
     int DoCount() override;
+    bool DoHolds(const std::vector<Variant>& key) override;
     void DoPost() override;
     void DoRenew(int row) const override;
     void DoDelete() override;
@@ -118,9 +121,11 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
   private:
     friend class fichario::TogetherSave;
     void SQLChanged();
+    void TakeText();
     fichario::PreparedQuery& RequirePrepared() const;
     void TakeColumns();
     bool OpenOnce();
+    int CountOnServer();
     bool CanBeginAgain(const EFDError& error);
     bool FetchAgain(int rows);
     void RequireWriting();
@@ -152,7 +157,10 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     bool ReadAgain(int row, const std::vector<fichario::WriteColumn>& columns) const;
     fichario::RowStore ReadKeyed(const std::vector<fichario::WriteColumn>& columns) const;
     std::vector<fichario::WriteColumn> KeyedColumns(int row) const;
+    void TakeRows(std::unique_ptr<fichario::RowStore> rows, std::unique_ptr<fichario::Cursor> cursor);
+    void RowMoved(uint64_t from, uint64_t to) const;
     std::optional<QByteArray> BlobIfHeld(int row, int column) const;
+    std::optional<QByteArray> TemporaryBlob(int row, int64_t id) const;
     bool HasKey() const;
     bool StillHolds(int row, int column) const;
     void RenewForBlob(int row) const;
@@ -164,13 +172,17 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     TFDParams FParams;
     mutable std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
+    // In which the rows were read, and those by their place that were read again in another.
+    std::weak_ptr<fichario::Transaction> FReadIn;
+    mutable std::map<uint64_t, std::weak_ptr<fichario::Transaction>> FReadAgainIn;
     // The table being written and its columns, kept from one record to the next.
     mutable UnicodeString FColumnsTable;
     mutable std::vector<fichario::WriteColumn> FTableColumns;
     mutable int FColumnsVersion = -1;
     mutable bool FFits = false;                 // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
-    bool FRemember = false;                     // what the next post writes
+    bool FTextChanged = false;
+    bool FRemember = false;  // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;
 };
 

@@ -31,15 +31,35 @@ std::optional<QByteArray> TFDCustomQuery::DoReadBlob(int row, int column) const 
 }
 
 std::optional<QByteArray> TFDCustomQuery::BlobIfHeld(int row, int column) const {
-    const std::shared_ptr<Attachment>& attachment = FPrepared->On();
+    Attachment& attachment = *FPrepared->On();
     const int64_t id = Rows().Value(row, column).ToInt64();
+    if (IsTemporaryBlob(id)) return TemporaryBlob(row, id);
     try {
-        QByteArray bytes = ReadBlob(*attachment, *attachment->Reading(), id, FPrepared->IsWide());
-        if (IsTemporaryBlob(id) || StillHolds(row, column)) return bytes;
+        QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), id, FPrepared->IsWide());
+        if (StillHolds(row, column)) return bytes;
     } catch (const EFDError& error) {
         if (!error.Has(kNoBlob) || !HasKey()) throw;
     }
     return std::nullopt;
+}
+
+// What a statement made lives as long as the transaction that the row was read in.
+std::optional<QByteArray> TFDCustomQuery::TemporaryBlob(int row, int64_t id) const {
+    Attachment& attachment = *FPrepared->On();
+    const auto elsewhere = FReadAgainIn.find(Rows().Address(row));
+    const auto readIn = (elsewhere == FReadAgainIn.end() ? FReadIn : elsewhere->second).lock();
+    if (readIn && readIn->Open() && readIn->IsOn(attachment))
+        return ReadBlob(attachment, *readIn, id, FPrepared->IsWide());
+    if (!HasKey()) throw EUnreadableText({}, u"a consulta precisa ser atualizada"_s);
+    return std::nullopt;
+}
+
+// A row that took new values keeps the blobs that it had.
+void TFDCustomQuery::RowMoved(uint64_t from, uint64_t to) const {
+    auto known = FReadAgainIn.extract(from);
+    if (known.empty()) return;
+    known.key() = to;
+    FReadAgainIn.insert(std::move(known));
 }
 
 bool TFDCustomQuery::HasKey() const {

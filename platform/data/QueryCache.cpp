@@ -52,6 +52,7 @@ void TFDCustomQuery::LogPost() {
     const uint64_t from = Rows().Address(CurrentRow());
     Rows().SetValues(CurrentRow(), values);
     const uint64_t to = Rows().Address(CurrentRow());
+    RowMoved(from, to);
     if (State() == dsInsert) return FLog->TakeInserted(to);
     FLog->TakeChanged(from, to, std::move(before));
 }
@@ -123,5 +124,6 @@ void TFDCustomQuery::WritePending(int row) {
     }
     const uint64_t from = Rows().Address(row);
     Rows().SetValues(row, values);
+    RowMoved(from, Rows().Address(row));
     FLog->TakeChanged(from, Rows().Address(row), {});
 }

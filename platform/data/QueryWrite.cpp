@@ -253,6 +253,8 @@ bool TFDCustomQuery::ReadAgain(int row, const std::vector<WriteColumn>& columns)
     const RowStore found = ReadKeyed(columns);
     if (found.Count() != 1 || !(found.Layout() == Rows().Layout())) return false;
     Rows().CopyRow(row, found, 0);
+    const std::shared_ptr<Transaction> readIn = FPrepared->On()->Reading();
+    if (FReadIn.lock() != readIn) FReadAgainIn[Rows().Address(row)] = readIn;
     return true;
 }
 
@@ -271,6 +273,17 @@ RowStore TFDCustomQuery::ReadKeyed(const std::vector<WriteColumn>& columns) cons
     std::vector<InputValue> values = Inputs();
     values.insert(values.begin() + shape.ParamsBeforeWhere(), key.begin(), key.end());
     return FPrepared->Read(shape.KeyedText(names), values);
+}
+
+bool TFDCustomQuery::DoHolds(const std::vector<Variant>& key) {
+    if (!HasKey()) return false;
+    std::vector<WriteColumn> columns = TableColumns();
+    const std::vector<int> places = KeyColumns();
+    for (WriteColumn& column : columns) {
+        const auto place = std::find(places.begin(), places.end(), column.Column);
+        if (place != places.end()) column.Value = key[static_cast<size_t>(place - places.begin())];
+    }
+    return ReadKeyed(columns).Count() == 1;
 }
 
 // The record's columns of its own table: for one that no longer is among the statement's rows.
@@ -309,5 +322,7 @@ void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns
             values[columns[i].Column] = &stored.back();
         }
     }
+    const uint64_t before = Rows().Address(row);
     Rows().SetValues(row, std::span<const Variant* const>(values.data(), static_cast<size_t>(values.size())));
+    RowMoved(before, Rows().Address(row));
 }

@@ -27,6 +27,7 @@ class SqlShapeReader {
         for (SqlToken token = lexer.Next(); token.Kind != SqlTokenKind::End; token = lexer.Next()) {
             if (token.IsSymbol(u')')) --depth;
             if (token.Kind == SqlTokenKind::Positional) CountParam();
+            if (FPart == Part::Columns) TakeItem(token, depth);
             if (depth == 0) Take(token);
             if (token.IsSymbol(u'(')) ++depth;
             if (!token.IsSymbol(u';')) S.FEnd = token.End();
@@ -54,6 +55,29 @@ class SqlShapeReader {
             case Part::Alias: TakeAlias(token); break;
             default: TakeClause(token); break;
         }
+    }
+
+    // What the column list's items are.
+    void TakeItem(const SqlToken& token, int depth) {
+        using Item = SqlShape::Item;
+        if (S.FItems.empty()) S.FItems.push_back(Item::Value);
+        if (FLimit) {  // FIRST and SKIP are followed by a value
+            FLimit = depth > 0 || token.IsSymbol(u'(');
+            return;
+        }
+        if (depth == 0 && IsAny(token, {u"DISTINCT", u"ALL"})) return;
+        if (depth == 0 && IsAny(token, {u"FIRST", u"SKIP"})) {
+            FLimit = FItemBegins;
+        } else if (depth == 0 && token.IsSymbol(u',')) {
+            S.FItems.push_back(Item::Value);
+            FItemBegins = true;
+        } else {
+            if (FItemBegins && token.Is(u"SELECT")) S.FItems.back() = Item::Select;
+            if (token.IsSymbol(u'*') && depth == 0 && (FItemBegins || FAfterDot))
+                S.FItems.back() = Item::Star;
+            FItemBegins = FItemBegins && token.IsSymbol(u'(');
+        }
+        FAfterDot = token.IsSymbol(u'.');
     }
 
     // A FROM behind DISTINCT belongs to the comparison IS DISTINCT FROM.
@@ -109,7 +133,9 @@ class SqlShapeReader {
         if (token.Is(u"ORDER")) S.FOrder = token.Start;
         if (IsAny(token, {u"ROWS", u"OFFSET", u"FETCH"})) FLimited = true;
         if (IsAny(token, {u"GROUP", u"HAVING", u"UNION"})) S.FPlain = false;
-        if (token.Is(u"UNION")) S.FMainTable.clear();
+        if (!token.Is(u"UNION")) return;
+        S.FMainTable.clear();
+        S.FUnion = true;
     }
 
     void Finish() {
@@ -121,10 +147,21 @@ class SqlShapeReader {
     SqlShape& S;
     Part FPart = Part::Start;
     bool FStarted = false, FDistinct = false, FLimited = false, FParamInOrder = false;
+    bool FItemBegins = true, FAfterDot = false, FLimit = false;
 };
 
 SqlShape::SqlShape(const UnicodeString& sql) : FText(sql) {
     SqlShapeReader(*this).Read();
+}
+
+// Counted from whichever end no * stands before it.
+bool SqlShape::IsSelected(int column, int columns) const {
+    const auto star = std::find(FItems.begin(), FItems.end(), Item::Star);
+    if (column < star - FItems.begin()) return FItems[static_cast<size_t>(column)] == Item::Select;
+    const auto lastStar = std::find(FItems.rbegin(), FItems.rend(), Item::Star);
+    const int fromEnd = columns - 1 - column;
+    return fromEnd < lastStar - FItems.rbegin() &&
+           FItems[FItems.size() - 1 - static_cast<size_t>(fromEnd)] == Item::Select;
 }
 
 UnicodeString SqlShape::Around(const UnicodeString& items, qsizetype end, size_t columns) const {

@@ -7,6 +7,7 @@
 //     shape.KeyedText({u"ID"});          // SELECT … WHERE (C."ID" = ?) AND (C.NM = ?)
 #pragma once
 #include <QStringView>
+#include <vector>
 #include "platform/rtl/Types.h"
 
 namespace fichario {
@@ -26,6 +27,11 @@ class SqlShape {
     const UnicodeString& MainAlias() const { return FMainAlias; }
     // FROM names more than one source.
     bool IsJoin() const { return FJoin; }
+    // Parts joined by UNION: what comes out is of no table.
+    bool IsUnion() const { return FUnion; }
+    // Column `column` of `columns`, from 0, is a SELECT in parentheses; false also behind a * when another
+    // one follows, where nobody can tell.
+    bool IsSelected(int column, int columns) const;
     // One row of the result is one row of the main table or of a join on it: no GROUP BY, DISTINCT, FIRST,
     // ROWS.
     bool IsPlain() const { return FPlain && !FMainTable.isEmpty(); }
@@ -46,10 +52,13 @@ class SqlShape {
     friend class SqlShapeReader;
     UnicodeString Around(const UnicodeString& items, qsizetype end, size_t columns) const;
 
+    enum class Item : char { Value, Star, Select };
+
     UnicodeString FText, FMainTable, FMainAlias;
     qsizetype FFrom = -1, FWhere = -1, FConditionsEnd = -1, FOrder = -1, FEnd = 0;
     int FParamsBeforeWhere = 0;
-    bool FJoin = false, FPlain = true;
+    bool FJoin = false, FPlain = true, FUnion = false;
+    std::vector<Item> FItems;  // of the column list
 };
 
 }  // namespace fichario

@@ -11,7 +11,7 @@ TField::TField(TComponent* owner, TFieldType type) : TComponent(owner) {
 }
 
 TField::~TField() {
-    if (FDataSet) FDataSet->RemoveField(this);
+    if (FDataSet) FDataSet->FieldFreed(this);
 }
 
 void TField::SetDataSet(TDataSet* dataSet) {
@@ -124,7 +124,7 @@ bool TField::AsBoolean() const {
 void TField::CheckWritable() const {
     if (!FDataSet) throw EDatabaseError(u"Field '%1' has no dataset"_s.arg(FFieldName));
     FDataSet->CheckEditing();
-    if (FReadOnly) throw EDatabaseError(u"Field '%1' cannot be modified"_s.arg(FFieldName));
+    if (ReadOnly()) throw EDatabaseError(u"Field '%1' cannot be modified"_s.arg(FFieldName));
 }
 
 void TField::Store(Variant&& value) {

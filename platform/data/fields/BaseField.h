@@ -67,7 +67,9 @@ class TField : public TComponent {
     void SetProviderFlags(TProviderFlags flags);
     bool Required() const { return FRequired.value_or(FDescription.Required); }
     void SetRequired(bool required) { FRequired = required; }
-    bool ReadOnly() const { return FReadOnly; }
+    // What cannot be written to the table is, unless the host says otherwise: its value is then kept until
+    // the record is posted.
+    bool ReadOnly() const { return FReadOnly.value_or(FDescription.ReadOnly); }
     void SetReadOnly(bool readOnly) { FReadOnly = readOnly; }
     bool Visible() const { return FVisible; }
     void SetVisible(bool visible);
@@ -177,7 +179,7 @@ class TField : public TComponent {
     std::optional<int> FDisplayWidth;
     std::optional<TAlignment> FAlignment;
     UnicodeString FEditMask;
-    bool FReadOnly = false;
+    std::optional<bool> FReadOnly;
     bool FVisible = true;
     int FColumn = -1;                // place in the dataset's rows; -1 while not described
     bool FAutomatic = false;         // made by its dataset

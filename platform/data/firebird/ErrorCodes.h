@@ -4,6 +4,7 @@
 
 namespace fichario {
 
+constexpr int64_t kSqlError = 335544569;             // the statement's text is none that it takes
 constexpr int64_t kReadOnlyTransaction = 335544361;  // a write in the transaction that only reads
 constexpr int64_t kConnectionLost = 335544856;       // the server or somebody on it ended the connection
 

@@ -27,6 +27,7 @@ class Transaction {
     Firebird::ITransaction* Handle() const { return FHandle; }
     // Whether it has neither been committed nor rolled back.
     bool Open() const { return FHandle != nullptr; }
+    bool IsOn(const Attachment& attachment) const { return &FAttachment == &attachment; }
     // EFDError: it stays open.
     void Commit();
     void Rollback();

@@ -6,6 +6,8 @@ namespace {
 
 constexpr qsizetype kLong = 100;
 
+TBookmark g_mark;
+
 const std::map<QString, std::function<void(TFDQuery&)>> kSteps = {
     {"open", &TFDQuery::Open},
     {"close", &TFDQuery::Close},
@@ -24,6 +26,8 @@ const std::map<QString, std::function<void(TFDQuery&)>> kSteps = {
     {"apply", &TFDQuery::ApplyUpdates},
     {"commit updates", &TFDQuery::CommitUpdates},
     {"cancel updates", &TFDQuery::CancelUpdates},
+    {"mark", [](TFDQuery& q) { g_mark = q.GetBookmark(); }},
+    {"to mark", [](TFDQuery& q) { q.GotoBookmark(g_mark); }},
     {"silence", &TFDQuery::DisableControls},
     {"sound", &TFDQuery::EnableControls}};
 
@@ -47,6 +51,7 @@ const std::map<QString, std::function<Variant(TQuery)>> kLooks = {
     {"modified", &TFDQuery::Modified},
     {"pending", &TFDQuery::UpdatesPending},
     {"rec", &TFDQuery::RecNo},
+    {"marked", [](TQuery q) { return q.BookmarkValid(g_mark); }},
     {"rows", &TFDQuery::RowCount},
     {"fields", &TFDQuery::FieldCount},
     {"transaction", [](TQuery q) { return q.Connection()->InTransaction(); }},
