@@ -175,6 +175,7 @@ class TDataSet : public TComponent {
     int FieldsVersion() const { return FFieldsVersion; }
     // The columns of the key, in their order.
     std::vector<int> KeyColumns() const;
+    std::vector<Variant> CurrentKey() const;
     // The field on a column of the rows.
     TField* FieldOfColumn(int column) const { return FFields[static_cast<size_t>(column)]; }
     // The value being edited, when it was set; the row's own otherwise; blobs with their content.
@@ -210,7 +211,6 @@ class TDataSet : public TComponent {
     void Scrolled();
     void FetchUntil(int row);
     void RenewRows() const;
-    std::vector<Variant> CurrentKey() const;
     int FindKey(const std::vector<Variant>& key, int near, int first) const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
     int RowOf(const TBookmark& bookmark) const;

@@ -193,9 +193,12 @@ bool TDataSet::IsChanged(int column) const {
     }
 }
 
-// Moments are kept as exactly as the server keeps them, so that the same moment typed again is no change.
+// Moments and numbers are kept as exactly as the server keeps them, so that the same one typed again is no
+// change, and one that was stored is known again.
 void TDataSet::StoreColumn(TField* field, Variant&& value) {
     if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
+    if (value.Kind() == vkFloat && FRows->Layout().IsSingle(field->FColumn))
+        value = double{static_cast<float>(value.ToDouble())};
     FEdits->Set(field->FColumn, std::move(value));
     if (field->OnChange) field->OnChange(field);
     if (auto* events = Events()) events->RecordChanged(field);

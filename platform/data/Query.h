@@ -182,7 +182,8 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     mutable bool FFits = false;                 // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
     bool FTextChanged = false;
-    bool FRemember = false;  // what the next post writes
+    std::vector<Variant> FDoubtfulDeletion;  // the key of the record that may be gone
+    bool FRemember = false;                  // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;
 };
 

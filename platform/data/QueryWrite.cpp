@@ -1,6 +1,7 @@
 // A query's records written to its table, and read again afterwards.
 #include <algorithm>
 #include <QVarLengthArray>
+#include <utility>
 #include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/firebird/Blob.h"
@@ -145,11 +146,17 @@ void TFDCustomQuery::DeleteRecord() {
     RequireWriting();
     std::vector<WriteColumn>& columns = WriteColumns();
     for (WriteColumn& column : columns) column.Write = false;
+    const auto gone = [&] { return ReadWritten(columns).Count() == 0; };
+    const std::vector<Variant> key = CurrentKey();
+    if (std::exchange(FDoubtfulDeletion, {}) == key && !key.empty() && gone()) return;
     RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     try {
         writer.Delete();
     } catch (const EFDError&) {
-        if (!writer.InDoubt() || !IsSoAnew([&] { return ReadWritten(columns).Count() == 0; })) throw;
+        if (!writer.InDoubt()) throw;
+        if (IsSoAnew(gone)) return;
+        FDoubtfulDeletion = key;
+        throw;
     }
 }
 

@@ -55,6 +55,8 @@ class RowLayout {
     TextEncoding Encoding(int column) const { return FPlaces[static_cast<size_t>(column)].Encoding; }
     TFieldType Type(int column) const { return FPlaces[static_cast<size_t>(column)].Type; }
     bool IsText(int column) const { return FPlaces[static_cast<size_t>(column)].IsText(); }
+    // A number with 24 binary digits.
+    bool IsSingle(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Float; }
     bool IsBlob(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Blob; }
 
   private:

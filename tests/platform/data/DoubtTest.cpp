@@ -80,11 +80,12 @@ class Doubt : public DataTest {
     void SetUp() override {
         if (!OnServer()) GTEST_SKIP() << "needs a server";
         DataTest::SetUp();
+        Exec(u"ALTER TABLE CLIENTE ADD F FLOAT"_s);
         FWire = std::make_unique<Wire>(ServerPort().toInt());
         TFDConnection* connection = Connect();
         connection->Close();
         connection->Params()->SetValue(u"Server"_s, u"127.0.0.1/%1"_s.arg(FWire->Port));
-        FQuery = Open(u"SELECT ID, NM, UF, SALDO, CRIADO, OBS FROM CLIENTE ORDER BY ID"_s, connection);
+        FQuery = Open(u"SELECT ID, NM, UF, SALDO, CRIADO, OBS, F FROM CLIENTE ORDER BY ID"_s, connection);
         fichario::SetClientCallHook([this](fichario::CallKind kind) {
             if (kind != fichario::CallKind::Commit || !std::exchange(FLoseCommit, false)) return;
             FWire->SwallowNext = true;
@@ -101,6 +102,7 @@ class Doubt : public DataTest {
         FQuery->FieldByName(u"SALDO"_s)->SetAsString(u"1234,5"_s);
         FQuery->FieldByName(u"CRIADO"_s)->SetAsDateTime(TDateTime(36526.123456));
         FQuery->FieldByName(u"OBS"_s)->SetAsString(u"memória"_s);
+        FQuery->FieldByName(u"F"_s)->SetAsFloat(0.1);
     }
     UnicodeString Names() { return Scalar(u"SELECT LIST(NM) FROM (SELECT NM FROM CLIENTE ORDER BY ID)"_s); }
 
@@ -216,13 +218,18 @@ TEST_F(Doubt, ARecordWithItemsIsSavedOnce) {
 }
 
 TEST_F(Doubt, ADoneDeletionIsNotDenied) {
-    FQuery->Append();
-    Type(u"novo"_s);
-    FQuery->Post();
-    FLoseCommit = true;
-    EXPECT_EQ(MessageOf([&] { FQuery->Delete(); }), u"");
-    EXPECT_EQ(FQuery->RowCount(), 3);
-    EXPECT_EQ(Names(), u"Ação,Bia,bruno");
+    for (const bool away : {false, true}) {
+        FQuery->Append();
+        Type(u"novo"_s);
+        FQuery->Post();
+        FLoseCommit = true;
+        FAway = away;
+        EXPECT_NE(MessageOf([&] { FQuery->Delete(); }).isEmpty(), away);
+        FWire->Closed = false;
+        if (away) EXPECT_EQ(MessageOf([&] { FQuery->Delete(); }), u"");
+        EXPECT_EQ(FQuery->RowCount(), 3);
+        EXPECT_EQ(Names(), u"Ação,Bia,bruno");
+    }
 }
 
 }  // namespace
