@@ -28,10 +28,12 @@ AttachSettings SettingsOf(const TStrings& params) {
     if (settings.CharacterSet.isEmpty()) settings.CharacterSet = u"ISO8859_1"_s;
     settings.Local =
         isSaid(u"Protocol", u"Local") || (value(u"Protocol").isEmpty() && settings.Server.isEmpty());
+    if (settings.Server.isEmpty()) settings.Server = u"localhost"_s;
     if (const int size = value(u"PageSize").toInt()) settings.PageSize = size;
     if (const int seconds = value(u"ConnectTimeout").toInt(); seconds > 0) settings.ConnectTimeout = seconds;
-    if (const UnicodeString seconds = value(u"StatementTimeout"); !seconds.isEmpty())
-        settings.StatementTimeout = seconds.toInt();
+    bool isNumber = false;
+    if (const int seconds = value(u"StatementTimeout").toInt(&isNumber); isNumber && seconds >= 0)
+        settings.StatementTimeout = seconds;
     settings.ForcedWrites = !isSaid(u"ForcedWrites", u"False");
     return settings;
 }

@@ -31,12 +31,12 @@ class TFDCustomConnection : public TComponent {
 
     // Name=value lines, read when the connection opens:
     //   DriverID       FB
-    //   Server         host, or host/port; with Protocol=TCPIP
+    //   Server         host, or host/port; with Protocol=TCPIP; localhost at first
     //   Protocol       TCPIP, or Local: the engine inside this process opens the file
     //   Database       path or alias; unchanged to a remote server
     //                  (a name that begins with / takes \ for /, and \name is an alias)
     //   User_Name, Password, RoleName
-    //   ConnectTimeout seconds until a server must have answered; 10 at first
+    //   ConnectTimeout seconds that connecting to a server may take; 10 at first
     //   StatementTimeout  seconds that one call of a statement (its execution, the fetch of a batch of
     //                  rows), or a commit, may take before it is broken off; 600 at first, 0: any time
     //   CharacterSet   ISO8859_1 (at first; the bytes are taken as Windows-1252), UTF8, WIN1252 or NONE

@@ -45,6 +45,11 @@ UnicodeString NewFileCause(const AttachSettings& settings) {
     return QFileInfo(file.path()).isDir() ? u"sem permissão de gravação na pasta"_s : u"a pasta não existe"_s;
 }
 
+UnicodeString UnavailableCause(const AttachSettings& settings, bool create) {
+    if (!settings.Local) return u"o servidor não conhece este caminho"_s;
+    return create || QFileInfo::exists(settings.Database) ? UnicodeString() : u"arquivo não encontrado"_s;
+}
+
 UnicodeString CauseOf(const EFDError& error) {
     for (const Cause& cause : kCauses) {
         if (error.Has(cause.Code)) return cause.Text.toString();
@@ -53,7 +58,8 @@ UnicodeString CauseOf(const EFDError& error) {
 }
 
 bool IsServers(const EFDError& error) {
-    return error.Has(isc_network_error) || error.Has(isc_net_connect_err) || error.Has(isc_connect_reject);
+    return error.Has(isc_network_error) || error.Has(isc_net_connect_err) || error.Has(isc_connect_reject) ||
+           !error.ConnectionUsable;
 }
 
 UnicodeString MessageOf(const EFDError& error, const AttachSettings& settings, bool create) {
@@ -63,6 +69,7 @@ UnicodeString MessageOf(const EFDError& error, const AttachSettings& settings, b
     }
     UnicodeString cause;
     if (error.Has(isc_io_error)) cause = create ? NewFileCause(settings) : FileCause(error, settings);
+    if (error.Has(isc_unavailable)) cause = UnavailableCause(settings, create);
     if (cause.isEmpty()) cause = CauseOf(error);
     if (cause.isEmpty()) cause = error.ServerText;
     const UnicodeString action = create ? u"criar"_s : u"abrir"_s;

@@ -10,18 +10,21 @@
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/FbErrors.h"
 #include "platform/data/firebird/Metadata.h"
+#include "platform/data/firebird/NewConnections.h"
 #include "platform/data/firebird/Statement.h"
 #include "platform/data/firebird/TcpProbe.h"
 #include "platform/data/firebird/Transaction.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace fichario {
 
 namespace {
 
 constexpr size_t kIdleStatements = 64;
-constexpr int kEndingSeconds = 10;
+constexpr std::chrono::seconds kEnding(10);
+constexpr int64_t kUsualPort = 3050;
 
 // The list of options of an attach, as the client library builds it.
 class AttachOptions {
@@ -65,19 +68,48 @@ void FillNew(AttachOptions& options, const AttachSettings& settings) {
     options.Text(isc_dpb_set_db_charset, settings.CharacterSet);
 }
 
-UnicodeString ServerOf(const AttachSettings& settings) {
-    return settings.Server.isEmpty() ? u"localhost"_s : settings.Server;
+// With the port that the client library takes where none is named.
+UnicodeString WithPort(const UnicodeString& server) {
+    if (!server.section(u'/', 1).isEmpty()) return server;
+    Firebird::IFirebirdConf* known = ClientLibrary().getConfigManager()->getFirebirdConf();
+    const int64_t port = known->asInteger(known->getKey("RemoteServicePort"));
+    known->release();
+    return server.section(u'/', 0, 0) + u'/' + QString::number(port > 0 ? port : kUsualPort);
 }
 
-UnicodeString PlaceOf(const AttachSettings& settings) {
-    const UnicodeString name = NameForServer(settings.Database);
-    return settings.Local ? name : ServerOf(settings) + u':' + name;
+// The address that a server answers on; empty for the engine in this process. EFDError.
+UnicodeString AddressOf(const AttachSettings& settings, Deadline end) {
+    if (settings.Local) return {};
+    const UnicodeString server = WithPort(settings.Server);
+    UnicodeString address;
+    ClientCall(CallKind::Attach, TextEncoding::Windows1252,
+               [&](Firebird::ThrowStatusWrapper&) { address = AddressThatAnswers(server, end); });
+    if (address.isEmpty()) throw ErrorOfCodes({isc_network_error, isc_net_connect_err});
+    return address;
 }
 
-// The client library itself has no limit for reaching a host.
-void RequireAnswer(const AttachSettings& settings) {
-    if (settings.Local || AnswersWithin(ServerOf(settings), settings.ConnectTimeout)) return;
-    throw AttachErrorOf(ErrorOfCodes({isc_network_error, isc_net_connect_err}), settings, false);
+// EFDError.
+Firebird::IAttachment* HandleOf(const AttachSettings& settings, bool create) {
+    const Deadline end = Deadline::clock::now() + std::chrono::seconds(settings.ConnectTimeout);
+    const UnicodeString address = AddressOf(settings, end), name = NameForServer(settings.Database);
+    const QByteArray place = (settings.Local ? name : address + u':' + name).toUtf8();
+    const NewConnections connections(address);
+    const std::shared_ptr<Firebird::IProvider> provider(
+        ClientLibrary().getDispatcher(), [](Firebird::IProvider* dispatcher) { dispatcher->release(); });
+    Firebird::IAttachment* handle = nullptr;
+    const SignalKeeper signals;
+    ClientCall(CallKind::Attach, EncodingOfName(settings.CharacterSet),
+               [&](Firebird::ThrowStatusWrapper& status) {
+                   AttachOptions options(status);
+                   Fill(options, settings);
+                   if (create) FillNew(options, settings);
+                   handle = create ? provider->createDatabase(&status, place.constData(), options.Length(),
+                                                              options.Bytes())
+                                   : provider->attachDatabase(&status, place.constData(), options.Length(),
+                                                              options.Bytes());
+               },
+               {.Time = settings.Local ? 0ms : LeftUntil(end), .Connections = &connections});
+    return handle;
 }
 
 // A program started later must not keep the connection, and with it locks, alive.
@@ -89,29 +121,13 @@ void KeepFromOtherPrograms() {
 }  // namespace
 
 std::shared_ptr<Attachment> Attachment::Reach(const AttachSettings& settings, bool create) {
-    RequireAnswer(settings);
-    Firebird::IProvider* provider = ClientLibrary().getDispatcher();
-    Firebird::IAttachment* handle = nullptr;
-    const QByteArray place = PlaceOf(settings).toUtf8();
-    const SignalKeeper signals;
     try {
-        ClientCall(CallKind::Attach, EncodingOfName(settings.CharacterSet),
-                   [&](Firebird::ThrowStatusWrapper& status) {
-                       AttachOptions options(status);
-                       Fill(options, settings);
-                       if (create) FillNew(options, settings);
-                       handle = create ? provider->createDatabase(&status, place.constData(),
-                                                                  options.Length(), options.Bytes())
-                                       : provider->attachDatabase(&status, place.constData(),
-                                                                  options.Length(), options.Bytes());
-                   });
+        Firebird::IAttachment* handle = HandleOf(settings, create);
+        KeepFromOtherPrograms();
+        return std::shared_ptr<Attachment>(new Attachment(handle, settings));
     } catch (const EFDError& error) {
-        provider->release();
         throw AttachErrorOf(error, settings, create);
     }
-    provider->release();
-    KeepFromOtherPrograms();
-    return std::shared_ptr<Attachment>(new Attachment(handle, settings));
 }
 
 std::shared_ptr<Attachment> Attachment::Attach(const AttachSettings& settings) {
@@ -143,12 +159,12 @@ Attachment::~Attachment() {
 
 bool Attachment::End(CallKind kind, ClientBody body) noexcept {
     // The engine in this process always answers: a long rollback or flush is its work.
-    return QuietClientCall(kind, body, {FHandle, FLocal ? 0 : kEndingSeconds, FLocal});
+    return QuietClientCall(kind, body, {FHandle, FLocal ? 0s : kEnding, FLocal});
 }
 
 void Attachment::Call(CallKind kind, ClientBody body) {
     try {
-        ClientCall(kind, FEncoding, body, {FHandle, FStatementTimeout, FLocal});
+        ClientCall(kind, FEncoding, body, {FHandle, std::chrono::seconds(FStatementTimeout), FLocal});
     } catch (const EFDError& error) {
         if (FUsable && !error.ConnectionUsable) FLostIn = kind;
         FUsable = FUsable && error.ConnectionUsable;

@@ -21,12 +21,12 @@ class Transaction;
 
 // What it takes to reach a database.
 struct AttachSettings {
-    UnicodeString Server;    // host or host/port; not used when Local
+    UnicodeString Server;    // host or host/port; only used when not Local
     UnicodeString Database;  // path or alias
     UnicodeString User, Password, Role;
     UnicodeString CharacterSet;  // a name the server knows
     bool Local = false;          // the engine inside this process
-    int ConnectTimeout = 10;     // seconds until a server must have answered
+    int ConnectTimeout = 10;     // seconds that connecting to a server may take
     int StatementTimeout = 600;  // seconds that one call of a statement, or a commit, may take; 0: any time
     int PageSize = 16384;        // of a new database
     bool ForcedWrites = true;    // of a new database

@@ -8,6 +8,7 @@
 
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/FbErrors.h"
+#include "platform/data/firebird/NewConnections.h"
 #include "platform/data/firebird/ServiceThread.h"
 #include "platform/system/UserInterface.h"
 
@@ -62,12 +63,12 @@ class CallWatch {
 
     bool DoneWithin(int milliseconds) {
         if (Service().DoneWithin(milliseconds)) return true;
-        if (FLimit.Attachment) BreakOffWhenDue();
+        if (FLimit.Attachment || FLimit.Connections) BreakOffWhenDue();
         return false;
     }
     // What was cancelled may have ended by itself just before, and the next statement must not pay for it.
     void Forgive() {
-        if (!FAsked) return;
+        if (!FAsked || !FLimit.Attachment) return;
         Cancel(fb_cancel_disable);
         Cancel(fb_cancel_enable);
     }
@@ -85,15 +86,16 @@ class CallWatch {
     void BreakOffWhenDue() {
         const Clock::time_point now = Clock::now();
         if (FAsked) {
-            if (now - *FAsked > kObeys) Cancel(fb_cancel_abort);
+            if (now - *FAsked > kObeys) GiveUp();
             return;
         }
-        FTimedOut = FLimit.Seconds > 0 && now - FBegin > std::chrono::seconds(FLimit.Seconds);
+        FTimedOut = FLimit.Time.count() > 0 && now - FBegin > FLimit.Time;
         if (!FTimedOut && !(IsStatement(FKind) && UserInterface().WaitCancelled())) return;
         FAsked = now;
         g_stop = true;
-        Cancel(IsStatement(FKind) ? fb_cancel_raise : fb_cancel_abort);
+        IsStatement(FKind) ? Cancel(fb_cancel_raise) : GiveUp();
     }
+    void GiveUp() { FLimit.Connections ? FLimit.Connections->Shut() : Cancel(fb_cancel_abort); }
     void Cancel(int how) {
         CallStatus status;
         try {

@@ -10,6 +10,7 @@
 //
 // What the client throws comes out as EFDError. Tests look in through the hook.
 #pragma once
+#include <chrono>
 #include <functional>
 #include "platform/data/Errors.h"
 #include "platform/data/firebird/TextEncoding.h"
@@ -22,6 +23,8 @@ class ThrowStatusWrapper;
 
 namespace fichario {
 
+class NewConnections;
+
 // Write: the statement of a single record, found by its key.
 enum class CallKind { Attach, Detach, Start, Prepare, Execute, Write, Fetch, Close, Commit, Rollback, Blob };
 
@@ -29,9 +32,10 @@ using ClientBody = FunctionRef<void(Firebird::ThrowStatusWrapper& status)>;
 
 // What a call may be broken off by, besides its end.
 struct CallLimit {
-    Firebird::IAttachment* Attachment = nullptr;  // the connection to break off on; null: nothing does
-    int Seconds = 0;                              // that the call may take; 0: any time
+    Firebird::IAttachment* Attachment = nullptr;  // the connection to break off on
+    std::chrono::milliseconds Time{0};            // that the call may take; 0: any time
     bool Local = false;                           // the engine is in this process: what is short never waits
+    const NewConnections* Connections = nullptr;  // to break off on while there is no attachment
 };
 
 // Runs `body` with a status of its own on the service thread, and waits for it as the screen does; what is

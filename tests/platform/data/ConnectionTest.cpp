@@ -23,6 +23,7 @@ TEST_F(DataTest, ADatabaseThatCannotBeOpenedSaysWhy) {
         UnicodeString File, Cause;
     } const cases[] = {
         {u"nenhum.fdb"_s, u"arquivo não encontrado"_s},
+        {u"C:nenhum.fdb"_s, u"arquivo não encontrado"_s},
         {u"pasta"_s, u"é uma pasta, não um arquivo"_s},
         {u"vazio.fdb"_s, u"o arquivo está vazio ou incompleto"_s},
         {u"lixo.fdb"_s, u"o arquivo não é um banco de dados Firebird"_s},

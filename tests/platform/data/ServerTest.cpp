@@ -1,49 +1,10 @@
-// What only a real server can show: who may connect, an answer within the time, a server that dies.
+// A server that dies.
 #include <QFile>
 #include <QProcess>
 #include "platform/data/firebird/ClientCall.h"
 #include "tests/platform/data/Script.h"
 
 namespace {
-
-class ServerOnly : public DataTest {
-  protected:
-    void SetUp() override {
-        if (!OnServer()) GTEST_SKIP() << "needs a server";
-        DataTest::SetUp();
-    }
-    void TearDown() override {
-        if (FRoot) DataTest::TearDown();
-    }
-    TFDConnection* Closed() {
-        TFDConnection* connection = Connect();
-        connection->Close();
-        return connection;
-    }
-};
-
-TEST_F(ServerOnly, SaysWhyItCannotBeReached) {
-    const UnicodeString here = u"127.0.0.1/"_s + ServerPort();
-    const struct {
-        const char16_t *Param, *Value;
-        UnicodeString Message;
-    } cases[] = {
-        {u"Password", u"errada", u"Usuário ou senha inválidos."_s},
-        {u"User_Name", u"ninguem", u"Usuário ou senha inválidos."_s},
-        {u"Server", u"127.0.0.1/1", u"Servidor não encontrado ou sem resposta (127.0.0.1/1)."_s},
-        {u"Server", u"nenhum.invalid", u"Servidor não encontrado ou sem resposta (nenhum.invalid)."_s},
-        {u"RoleName", u"NENHUM", u"O papel \"NENHUM\" não existe ou não foi concedido ao usuário SYSDBA."_s},
-        {u"Database", u"/etc/passwd",
-         u"Não foi possível abrir o banco de dados /etc/passwd: o servidor não permite o acesso a este arquivo."_s},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(QString::fromUtf16(c.Value).toStdString());
-        TFDConnection* connection = Closed();
-        connection->Params()->SetValue(QString::fromUtf16(c.Param), QString::fromUtf16(c.Value));
-        EXPECT_EQ(MessageOf([&] { connection->Open(); }), c.Message);
-        EXPECT_FALSE(connection->Connected());
-    }
-}
 
 // A server that a test may kill.
 class Mortal : public ScriptTest {
