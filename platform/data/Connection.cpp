@@ -7,6 +7,7 @@
 #include "platform/data/ParamScanner.h"
 #include "platform/data/PreparedQuery.h"
 #include "platform/data/Query.h"
+#include "platform/data/SqlLexer.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace fichario;
@@ -43,10 +44,12 @@ void CheckRole(Attachment& attachment, const AttachSettings& settings) {
     if (settings.Role.isEmpty()) return;
     const RowStore rows = ReadRows(attachment, u"SELECT TRIM(CURRENT_ROLE) FROM RDB$DATABASE"_s, {});
     const UnicodeString given = rows.Value(0, 0).ToText();
-    if (given.compare(settings.Role, Qt::CaseInsensitive) == 0) return;
+    const bool exactly = settings.Role.startsWith(u'"');
+    const UnicodeString role = exactly ? NameOf({SqlTokenKind::QuotedName, 0, settings.Role}) : settings.Role;
+    if (given.compare(role, exactly ? Qt::CaseSensitive : Qt::CaseInsensitive) == 0) return;
     EFDError error = ErrorOfCodes({kInvalidRole})
                          .Saying(u"O papel \"%1\" não existe ou não foi concedido ao usuário %2."_s.arg(
-                             settings.Role, settings.User));
+                             role, settings.User));
     error.ConnectionUsable = false;
     throw error;
 }

@@ -35,7 +35,8 @@ class TFDCustomConnection : public TComponent {
     //   Protocol       TCPIP, or Local: the engine inside this process opens the file
     //   Database       path or alias; unchanged to a remote server
     //                  (a name that begins with / takes \ for /, and \name is an alias)
-    //   User_Name, Password, RoleName
+    //   User_Name, Password
+    //   RoleName       "Caixa" exactly so, with quotes; without them in any case
     //   ConnectTimeout seconds that connecting to a server may take; 10 at first
     //   StatementTimeout  seconds that one call of a statement (its execution, the fetch of a batch of
     //                  rows), or a commit, may take before it is broken off; 600 at first, 0: any time

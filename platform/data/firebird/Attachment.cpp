@@ -56,13 +56,13 @@ void Fill(AttachOptions& options, const AttachSettings& settings) {
     options.Text(isc_dpb_user_name, settings.User);
     options.Text(isc_dpb_password, settings.Password);
     options.Text(isc_dpb_lc_ctype, settings.CharacterSet);
+    options.Number(isc_dpb_sql_dialect, SQL_DIALECT_V6);  // only so are quotes around the role understood
     if (!settings.Role.isEmpty()) options.Text(isc_dpb_sql_role_name, settings.Role);
     if (settings.Local) options.Text(isc_dpb_config, u"Providers=Engine12"_s);
     if (!settings.Local) options.Number(isc_dpb_connect_timeout, settings.ConnectTimeout);
 }
 
 void FillNew(AttachOptions& options, const AttachSettings& settings) {
-    options.Number(isc_dpb_sql_dialect, SQL_DIALECT_V6);
     options.Number(isc_dpb_page_size, settings.PageSize);
     options.Number(isc_dpb_force_write, settings.ForcedWrites ? 1 : 0);
     options.Text(isc_dpb_set_db_charset, settings.CharacterSet);
