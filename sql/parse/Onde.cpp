@@ -25,7 +25,7 @@ bool NeedsJoining(UnicodeString& where, QStringView condition) {
 }  // namespace
 
 void AddWhereClause(UnicodeString& where, const UnicodeString& condition) {
-    const QStringView added = Trim(condition);
+    const UnicodeString added = Trim(condition).toString();
     if (!NeedsJoining(where, added)) return;
     const UnicodeString existing = where.mid(kKeywordLength);
     if (IsMixed(existing) || IsMixed(added)) {
@@ -36,7 +36,7 @@ void AddWhereClause(UnicodeString& where, const UnicodeString& condition) {
 }
 
 void AddWhereClauseHigh(UnicodeString& where, const UnicodeString& condition) {
-    const QStringView added = Trim(condition);
+    const UnicodeString added = Trim(condition).toString();
     if (!NeedsJoining(where, added)) return;
     const UnicodeString existing = Trim(QStringView(where).mid(kKeywordLength)).toString();
     if (IsMixed(existing) || IsMixed(added)) {

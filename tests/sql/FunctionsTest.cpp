@@ -22,6 +22,14 @@ QString Joined(Add add, UnicodeString where, const UnicodeString& condition) {
     return where;
 }
 
+// In a buffer of its own, so that a view into the old text would show.
+template <class Add>
+QString JoinedToItself(Add add, UnicodeString where) {
+    where.detach();
+    add(where, where);
+    return where;
+}
+
 QString Region(const QStringList& a) {
     TSQLSearch search{a[1], {}, !a[3].isEmpty(), a[4].toInt(), a[5].toInt()};
     const QStringList endings = a[2].split(',', Qt::SkipEmptyParts);
@@ -43,6 +51,8 @@ TEST(Functions, DoWhatTheTablesSay) {
         {"SetCharValues", [](const QStringList& a) { return SetCharValues(a[0]); }},
         {"add", [](const QStringList& a) { return Joined(AddWhereClause, a[0], a[1]); }},
         {"high", [](const QStringList& a) { return Joined(AddWhereClauseHigh, a[0], a[1]); }},
+        {"addItself", [](const QStringList& a) { return JoinedToItself(AddWhereClause, a[0]); }},
+        {"highItself", [](const QStringList& a) { return JoinedToItself(AddWhereClauseHigh, a[0]); }},
         {"ParseStr", Region}};
     for (const char* table : {"identifiers", "literals", "where", "scanner"}) {
         CheckTextTable(QString(SQL_TESTS "/tables/%1.txt").arg(table), functions);
