@@ -11,6 +11,9 @@ constexpr std::array<WideChar, 32> kHigh = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+// Their capitals are outside the code page, that of ÿ outside ISO 8859-1, the usual set of connections.
+constexpr QStringView kWithoutCapital = u"µÿƒ";
+
 std::optional<char> ByteOf(WideChar character) {
     if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return static_cast<char>(character);
     const auto found = std::find(kHigh.begin(), kHigh.end(), character);
@@ -63,7 +66,9 @@ bool InCodePage(WideChar character) {
 
 UnicodeString UpperText(QStringView text) {
     UnicodeString upper = text.toString();
-    for (QChar& c : upper) c = c.toUpper();
+    for (QChar& c : upper) {
+        if (!kWithoutCapital.contains(c)) c = c.toUpper();
+    }
     return upper;
 }
 

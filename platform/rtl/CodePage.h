@@ -28,7 +28,8 @@ UnicodeString FromAnsi(QByteArrayView bytes);
 // Whether the code page has the character.
 bool InCodePage(WideChar character);
 
-// Upper and lower case, character by character: the length never changes, so "ß" stays "ß".
+// Upper and lower case, character by character: the length never changes, so "ß" stays "ß". In upper case µ,
+// ÿ and ƒ stay too, so that a text that a database could take remains one.
 UnicodeString UpperText(QStringView text);
 UnicodeString LowerText(QStringView text);
 

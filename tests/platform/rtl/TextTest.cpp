@@ -10,6 +10,7 @@ TEST(CodePage, EveryByteComesBack) {
     for (int byte = 0; byte < 256; ++byte) {
         const QByteArray bytes(1, static_cast<char>(byte));
         EXPECT_EQ(ToAnsiExact(FromAnsi(bytes)), bytes) << byte;
+        EXPECT_TRUE(ToAnsiExact(UpperText(FromAnsi(bytes)))) << byte;
     }
     EXPECT_EQ(FromAnsi("\x80\x81\x9F\xE7"), u"€\u0081Ÿç"_s);
 }
@@ -21,7 +22,7 @@ TEST(CodePage, MissingCharacters) {
 }
 
 TEST(CodePage, CaseKeepsLength) {
-    EXPECT_EQ(UpperText(u"straße ação"), u"STRAßE AÇÃO"_s);
+    EXPECT_EQ(UpperText(u"straße ação ÿ"), u"STRAßE AÇÃO ÿ"_s);
     EXPECT_EQ(LowerText(u"ÉÇ"), u"éç"_s);
     EXPECT_TRUE(SameText(u"Ação", u"AÇÃO"));
     EXPECT_FALSE(SameText(u"acao", u"ação"));
