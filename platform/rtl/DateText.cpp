@@ -132,11 +132,14 @@ int ReadMilliseconds(QStringView text) {
 
 bool TryStrToDate(QStringView text, TDateTime& value) {
     const auto parts = Trim(text).split(QChar(FormatSettings.DateSeparator));
-    const UnicodeString order = DateOrder();
-    if (parts.size() != 3 || order.size() != 3) return false;
+    UnicodeString order = DateOrder();
+    if (order.size() != 3) return false;
+    const bool thisYear = parts.size() == 2;
+    if (thisYear) order.remove(u'y');
+    if (parts.size() != order.size()) return false;
     const auto part = [&](QChar letter) { return parts[order.indexOf(letter)]; };
-    const auto date =
-        TryEncodeDate(ReadYear(part(u'y')), ReadNumber(part(u'm'), 2), ReadNumber(part(u'd'), 2));
+    const int year = thisYear ? DecodeDate(Date()).Year : ReadYear(part(u'y'));
+    const auto date = TryEncodeDate(year, ReadNumber(part(u'm'), 2), ReadNumber(part(u'd'), 2));
     if (date) value = *date;
     return date.has_value();
 }

@@ -11,8 +11,8 @@
 #include "platform/rtl/DateTime.h"
 #include "platform/rtl/Types.h"
 
-// Day, month and year, all three, in the order of FormatSettings.ShortDateFormat with its date separator. A
-// year of one or two digits falls in the window of FormatSettings.
+// Day, month and year in the order of FormatSettings.ShortDateFormat with its date separator. A year of one
+// or two digits falls in the window of FormatSettings; day and month alone are of the current year.
 TDateTime StrToDate(QStringView text);
 bool TryStrToDate(QStringView text, TDateTime& value);
 

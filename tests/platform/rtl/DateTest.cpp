@@ -80,5 +80,6 @@ TEST(DateText, ObeysTheSettings) {
     FormatSettings.DecimalSeparator = u'.';
     FormatSettings.ThousandSeparator = u' ';
     EXPECT_EQ(DateToStr(StrToDate(u"3-7-2024")), u"03-07-2024"_s);
+    EXPECT_EQ(DecodeDate(StrToDate(u"3-17")).Day, 17);
     EXPECT_EQ(FormatFloat(u"#,##0.00", StrToFloat(u"1234.5")), u"1 234.50"_s);
 }
