@@ -7,6 +7,8 @@
 #include "sql/SQLParse.h"
 #include "utils/funcoes/Texto.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 UnicodeString Parameter(size_t place) {
@@ -17,8 +19,12 @@ UnicodeString OnlyDate(const UnicodeString& name) {
     return u"CAST(" % name % u" AS DATE)";
 }
 
+// The content of a literal that stays on one line: CutWhere goes by lines, and a literal that it cut in two
+// would let the next value become SQL.
 UnicodeString Quoted(const UnicodeString& value) {
-    return cvLitCriteria(value, u'\'');
+    return cvLitCriteria(value, u'\'')
+        .replace(u'\r', u"'||ASCII_CHAR(13)||'"_s)
+        .replace(u'\n', u"'||ASCII_CHAR(10)||'"_s);
 }
 
 // The user's * is the server's %.

@@ -25,9 +25,10 @@ class FilterOnDatabase : public ::testing::Test {
         Connection->ExecSQL(
             "CREATE TABLE T (ID INTEGER NOT NULL PRIMARY KEY, NOME VARCHAR(40), VALOR NUMERIC(15,2), "
             "DATA TIMESTAMP, OK BOOLEAN, TF_DEL CHAR(1))");
-        const char* rows[] = {
-            "1, 'ANA', 1.5, '2024-03-07 10:00', TRUE, 'N'", "2, 'O''BRIEN', 2.5, '2024-03-08', FALSE, NULL",
-            "3, 'ANDRÉ', 3.5, '2024-03-09 23:59', TRUE, 'S'", "4, 'BANANA', 3.5, NULL, NULL, 'N'"};
+        const char* rows[] = {"1, 'ANA', 1.5, '2024-03-07 10:00', TRUE, 'N'",
+                              "2, 'O''BRIEN', 2.5, '2024-03-08', FALSE, NULL",
+                              "3, 'ANDRÉ', 3.5, '2024-03-09 23:59', TRUE, 'S'",
+                              "4, 'BANANA', 3.5, NULL, NULL, 'N'", "5, 'µ\n5', NULL, NULL, NULL, 'S'"};
         for (const char* row : rows)
             Connection->ExecSQL("INSERT INTO T VALUES (" + QString::fromUtf8(row) + ")");
         Query = new TFDQuery(Owner);
@@ -69,6 +70,10 @@ TEST_F(FilterOnDatabase, FindsWhatTheFieldsSay) {
                  {{nome}, {"o'b"}, "2"},
                  {{nome}, {"x' OR '1'='1"}, ""},
                  {{nome}, {"*😀"}, ""},
+                 {{nome}, {"x\r\nwhere"}, ""},
+                 {{nome}, {" OR 1=1 OR 1=1 --"}, ""},
+                 {{nome}, {"µ\n5"}, "5"},
+                 {{nome}, {"µ\r\n5"}, ""},
                  {{valor}, {"3,5"}, "3 4"},
                  {{data}, {"09/03/2024"}, "3"},
                  {{ok}, {"true"}, "1 3"},
@@ -83,6 +88,7 @@ TEST_F(FilterOnDatabase, FindsWhatTheFieldsSay) {
 
 TEST_F(FilterOnDatabase, HidesDeletedRowsUnlessAskedFor) {
     EXPECT_EQ(Found({Field("VALOR")}, {"3,5"}), "4");
+    EXPECT_TRUE(Query->SQL()->Text().contains("\r\n AND COALESCE(TF_DEL, 'N') = 'N' \r\n"));
     EXPECT_EQ(Found({Field("NOME")}, {"*"}, "ID DESC", "VALOR > 2"), "4 2");
 }
 

@@ -7,6 +7,7 @@
 namespace {
 
 const std::map<QString, TCampoFiltro> kFields = {{"nome", {"C.NOME", TTipoCampo::Texto, "o'brien*jr"}},
+                                                 {"linhas", {"C.NOME", TTipoCampo::Texto, "x\r\nwhere\n'"}},
                                                  {"data", {"C.DATA", TTipoCampo::Data, "07/03/2024"}},
                                                  {"valor", {"C.VALOR", TTipoCampo::Numero, "1,5"}},
                                                  {"ativo", {"C.ATIVO", TTipoCampo::Outro, "it's*"}}};
