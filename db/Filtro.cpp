@@ -62,6 +62,10 @@ TFDCustomQuery* QueryOf(TDataSet* dataSet) {
     return query;
 }
 
+void CheckEnough(size_t needed, size_t given, QStringView what) {
+    if (given < needed) throw EDatabaseError(u"Filtro needs a value for each " % what % u'.');
+}
+
 template <class T>
 std::span<const T> List(const T* first, int high) {
     return {first, static_cast<size_t>(high + 1)};
@@ -74,6 +78,8 @@ void Filtro(TDataSet* dataSet, std::span<TField* const> fields, std::span<const 
             std::span<const UnicodeString> paramNames, std::span<const Variant> paramValues, TKeyType keyType,
             bool showDeleted) {
     TFDCustomQuery* query = QueryOf(dataSet);
+    CheckEnough(fields.size(), values.size(), u"field");
+    CheckEnough(paramNames.size(), paramValues.size(), u"parameter");
     TTextoFiltro texto;
     texto.Campos = FilterFields(fields, values);
     texto.Faixa = fields.size() == 2 && fields[0] == fields[1];

@@ -27,14 +27,15 @@ class TField;
 //   kind
 //     then gives no condition.
 //   - `condition` is joined with AND; without fields it still begins so: the statement must end where AND may
-//   follow.
+//   follow. It must not hold the letters WHERE (a sub-select belongs into a view): the next call would cut
+//   the statement there.
 //   - A dataset with a field TF_DEL hides rows marked deleted unless `showDeleted`.
 //   - The rows are ordered by `order`, as written behind ORDER BY, then by the key fields when `keyType` is
 //     ktFieldProviderFlag; either may be missing.
 //   - `paramNames` are further parameters of the statement, set from `paramValues`, at the same places.
 // Throws EConvertError for a value that is no date or number; Exception "Nenhuma chave primaria foi
-// definida." when the key is asked for and no field holds pfInKey; EDatabaseError from the server. Nothing is
-// opened then.
+// definida." when the key is asked for and no field holds pfInKey; EDatabaseError from the server, and for
+// fewer values than fields or parameters. Nothing is opened then.
 void Filtro(TDataSet* dataSet, std::span<TField* const> fields, std::span<const UnicodeString> values,
             const UnicodeString& order, const UnicodeString& condition,
             std::span<const UnicodeString> paramNames, std::span<const Variant> paramValues, TKeyType keyType,

@@ -95,6 +95,8 @@ class TFrmGrid_Master : public TFrmBase {
     int OrderFieldIndex() const { return FOrderFieldIndex; }
     // Whether records can be searched for in a column: its field's origin is not "#0".
     bool CanOrderBy(int Index) const;
+    // A further condition of every search. It must not hold the letters WHERE, as a sub-select does: the next
+    // search would cut the statement there.
     const UnicodeString& Where() const { return FWhere; }
     void SetWhere(const UnicodeString& where) { FWhere = where; }
     const UnicodeString& OrderBy() const { return FOrderBy; }

@@ -107,6 +107,9 @@ TEST_F(FilterOnDatabase, RefusesWhatItCannotFilter) {
     EXPECT_THROW(Found({Field("DATA")}, {"31/02/2024"}), EConvertError);
     EXPECT_FALSE(Query->Active());
     EXPECT_THROW(Found({Field("VALOR")}, {"x"}), EConvertError);
+    EXPECT_THROW(Found({Field("VALOR")}, {}), EDatabaseError);
+    const UnicodeString names[] = {"A"};
+    EXPECT_THROW(Filtro(Query, {}, {}, {}, {}, names, {}, ktNone, true), EDatabaseError);
     for (TField* field : Query->Fields()) field->SetProviderFlags(0);
     try {
         Filtro(Query, {}, {}, {}, {}, {}, {}, ktFieldProviderFlag, true);
