@@ -7,5 +7,6 @@
 class TFDCustomConnection;
 
 // The generator's value after adding `increment`; 0 reads it and changes nothing. `generator` is written into
-// the statement as it stands. Throws EDatabaseError (unknown generator, lost connection).
+// the statement as it stands. Throws EDatabaseError (unknown generator, lost connection), and EConvertError
+// when the value, which then counts as drawn, exceeds an int.
 int GetGeneratorID(TFDCustomConnection* connection, const UnicodeString& generator, int increment);

@@ -126,6 +126,18 @@ TEST_F(FilterOnDatabase, GeneratorsCount) {
     EXPECT_EQ(GetGeneratorID(Connection, "GEN_CLIENTE", 10), 11);
     EXPECT_EQ(GetGeneratorID(Connection, "GEN_CLIENTE", 0), 11);
     EXPECT_THROW(GetGeneratorID(Connection, "NENHUM", 1), EDatabaseError);
+    const int queries = ApplicationRoot()->ComponentCount();
+    auto* left = dynamic_cast<TFDQuery*>(ApplicationRoot()->Components(queries - 1));
+    ASSERT_TRUE(left);
+    EXPECT_EQ(left->SQL()->Text(), "SELECT GEN_ID(NENHUM, 1) GEN_VALUE FROM RDB$DATABASE\r\n");
+    Connection->ExecSQL("ALTER SEQUENCE GEN_CLIENTE RESTART WITH 3000000000");
+    try {
+        GetGeneratorID(Connection, "GEN_CLIENTE", 0);
+        FAIL() << "a value beyond an int";
+    } catch (const EConvertError& e) {
+        EXPECT_TRUE(e.Message.contains("3000000000 do gerador GEN_CLIENTE"));
+    }
+    EXPECT_EQ(ApplicationRoot()->ComponentCount(), queries);
 }
 
 TEST_F(FilterOnDatabase, FlagColumnsAreShownAndStored) {
