@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include "platform/data/Errors.h"
+#include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/WireTime.h"
 #include "platform/rtl/CodePage.h"
 
@@ -103,6 +104,7 @@ RowLayout::Place RowLayout::PlaceOf(const ColumnInfo& column) {
     place.Offset = column.Offset;
     place.NullOffset = column.NullOffset;
     place.Length = column.Length;
+    place.Padded = column.Kind == WireKind::Text && column.CharacterSet != kOctetsSet;
     place.Size = place.IsText() ? (column.Length > 255 ? 2 : 1) : FixedSize(column.Kind);
     return place;
 }
@@ -138,7 +140,8 @@ uint8_t* RowLayout::PackText(const Place& place, const uint8_t* message, bool nu
     const uint8_t* text = message + place.Offset;
     if (null) return PutText(place, text, 0, out);
     if (place.Kind == WireKind::Text)
-        return PutText(place, text, WithoutTrailingBlanks(text, place.Length), out);
+        return PutText(place, text, place.Padded ? WithoutTrailingBlanks(text, place.Length) : place.Length,
+                       out);
     const uint32_t length = std::min<uint32_t>(Read<uint16_t>(text), place.Length);
     return PutText(place, text + sizeof(uint16_t), length, out);
 }

@@ -65,6 +65,7 @@ class RowLayout {
         TFieldType Type;
         TextEncoding Encoding;
         uint8_t Scale;
+        bool Padded;      // CHAR: blanks at its end are no part of it
         uint8_t Size;     // fixed: bytes; text: bytes of the length in front of it
         uint32_t Offset;  // in the message
         uint32_t NullOffset;
