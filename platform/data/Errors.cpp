@@ -25,6 +25,8 @@ EFDError EFDError::Saying(const UnicodeString& message) const {
     EFDError error(message, FCodes);
     error.ServerText = ServerText;
     error.Constraint = Constraint;
+    error.Table = Table;
+    error.Columns = Columns;
     error.SqlState = SqlState;
     error.ConnectionUsable = ConnectionUsable;
     error.BrokenOff = BrokenOff;

@@ -31,8 +31,9 @@ class EUnreadableText : public EDatabaseError {
     UnicodeString Reason;
 };
 
-// A failure that the database client or server reported. `Message` is a Portuguese sentence that says what to
-// do; what has no sentence of its own shows the server's text.
+// A failure that the database client or server reported, or that is found before they would (a text too long
+// or with a foreign character) or for them (a record that others changed: code 335544878). `Message` is a
+// Portuguese sentence that says what to do; what has no sentence of its own shows the server's text.
 class EFDError : public EDatabaseError {
   public:
     EFDError(const UnicodeString& message, std::vector<int64_t> codes);
@@ -52,6 +53,8 @@ class EFDError : public EDatabaseError {
     UnicodeString ServerText;  // the server's own text, several lines
     // The violated constraint's, index's or column's name; empty when none was named.
     UnicodeString Constraint;
+    UnicodeString Table;           // of the constraint; empty when not named
+    TStringArray Columns;          // those of the violated key, or the one whose value is refused
     UnicodeString SqlState;        // five characters, such as 23000
     bool ConnectionUsable = true;  // false: the connection is lost and must be opened anew
     bool BrokenOff = false;        // the call was given up here: its time was over, or the user cancelled

@@ -1,6 +1,7 @@
 #include "platform/data/firebird/FbErrors.h"
 
 #include <algorithm>
+#include <QRegularExpression>
 #include "platform/data/firebird/FbApi.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,6 +26,10 @@ constexpr QStringView kLost =
 constexpr QStringView kNoServer = u"Servidor não encontrado ou sem resposta.";
 constexpr QStringView kLocked = u"Este registro está sendo alterado por outro usuário. Tente novamente.";
 constexpr QStringView kDuplicate = u"Já existe um registro com este valor.";
+constexpr QStringView kRule = u"Os valores digitados não atendem a uma regra do cadastro.";
+constexpr QStringView kBeyond = u"Número fora da faixa permitida.";
+constexpr QStringView kByZero = u"Divisão por zero.";
+constexpr QStringView kMoment = u"Data ou hora fora da faixa permitida.";
 
 // In the order in which they tell more: a vector often holds a general code first and the cause behind it.
 constexpr Sentence kSentences[] = {
@@ -51,6 +56,16 @@ constexpr Sentence kSentences[] = {
     {isc_not_valid, u"Preencha o campo obrigatório."},
     {isc_string_truncation, u"Texto maior que o permitido."},
     {isc_transliteration_failed, u"Caractere não permitido."},
+    {isc_check_constraint, kRule},
+    {isc_numeric_out_of_range, kBeyond},
+    {isc_exception_integer_overflow, kBeyond},
+    {isc_exception_float_overflow, kBeyond},
+    {isc_exception_integer_divide_by_zero, kByZero},
+    {isc_exception_float_divide_by_zero, kByZero},
+    {isc_date_range_exceeded, kMoment},
+    {isc_time_range_exceeded, kMoment},
+    {isc_datetime_range_exceeded, kMoment},
+    {isc_convert_error, u"Valor inválido para o tipo do campo."},
     {isc_no_priv, u"Você não tem permissão para esta operação."},
 };
 
@@ -75,32 +90,53 @@ const ErrorItem* Find(const std::vector<ErrorItem>& items, int64_t code) {
 }
 
 UnicodeString SentenceOf(const std::vector<ErrorItem>& items) {
+    const ErrorItem* refused = Find(items, isc_not_valid);
+    if (refused && !refused->Texts.empty() && refused->Texts.back() != u"*** null ***")
+        return kRule.toString();
     for (const Sentence& sentence : kSentences) {
         if (Find(items, sentence.Code)) return sentence.Text.toString();
     }
     return {};
 }
 
-// The text that a trigger or procedure raised for the user: the exception's name stands before it, the place
-// behind.
+// The text that a trigger or procedure raised for the user: the exception's name stands before it, behind
+// it the values that were filled in and the place.
 UnicodeString RaisedText(const std::vector<ErrorItem>& items) {
     const ErrorItem* raised = Find(items, isc_except);
     if (!raised) return {};
     UnicodeString text;
     for (size_t i = static_cast<size_t>(raised - items.data()) + 1; i < items.size(); ++i) {
         if (items[i].Code == isc_stack_trace) break;
-        if (!items[i].Texts.empty()) text = items[i].Texts.back();
+        if (!items[i].Texts.empty()) text = items[i].Texts.front();
     }
     return text;
 }
 
-UnicodeString ConstraintOf(const std::vector<ErrorItem>& items) {
+// The constraint and, where it is told, its table.
+void TakeConstraint(const std::vector<ErrorItem>& items, EFDError& error) {
     for (const int64_t code :
          {isc_unique_key_violation, isc_no_dup, isc_foreign_key, isc_check_constraint, isc_not_valid}) {
         const ErrorItem* item = Find(items, code);
-        if (item && !item->Texts.empty()) return item->Texts.front();
+        if (!item || item->Texts.empty()) continue;
+        error.Constraint = item->Texts[0];
+        if (code != isc_not_valid && item->Texts.size() > 1) error.Table = item->Texts[1];
+        return;
     }
-    return {};
+}
+
+// The columns of the key, told as ("PEDIDO" = 1, "ITEM" = 'x'), or the one whose value is refused, told as
+// "TABLE"."COLUMN".
+void TakeColumns(const std::vector<ErrorItem>& items, EFDError& error) {
+    static const QRegularExpression key(u"(?:^\\(|, )\"([^\"]+)\" = "_s), one(u"^\"(.+)\"\\.\"(.+)\"$"_s);
+    const ErrorItem* values = Find(items, isc_idx_key_value);
+    if (values && !values->Texts.empty()) {
+        for (const auto& match : key.globalMatch(values->Texts[0]))
+            error.Columns.push_back(match.captured(1));
+    }
+    if (const auto match = one.match(error.Constraint); match.hasMatch() && error.Has(isc_not_valid)) {
+        error.Table = match.captured(1);
+        error.Columns.push_back(match.captured(2));
+    }
 }
 
 bool IsLost(const std::vector<ErrorItem>& items) {
@@ -124,7 +160,8 @@ EFDError Assemble(const std::vector<ErrorItem>& items, const UnicodeString& serv
     if (message.isEmpty()) message = u"Erro no banco de dados: "_s + serverText;
     EFDError error(message, codes);
     error.ServerText = serverText;
-    error.Constraint = ConstraintOf(items);
+    TakeConstraint(items, error);
+    TakeColumns(items, error);
     error.ConnectionUsable = !IsLost(items);
     return error;
 }

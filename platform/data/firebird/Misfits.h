@@ -4,8 +4,8 @@
 
 namespace fichario {
 
-// EDatabaseError: the character that the character set lacks, or how long the text may be. `label` names the
-// field; empty: none is named.
+// EFDError with the server's code for it: the character that the character set lacks, or how long the text
+// may be. `label` names the field; empty: none is named.
 [[noreturn]] void RefuseMisfit(const Misfit& misfit, const UnicodeString& label);
 
 }  // namespace fichario

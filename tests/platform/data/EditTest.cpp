@@ -17,8 +17,6 @@ TEST_F(ScriptTest, RecordsAreWrittenAndRefused) {
         } catch (const EFDError& error) {
             const bool named = error.Has(a[2].toLongLong()) && error.ConnectionUsable;
             said = named && (a[3].isEmpty() || error.Constraint == a[3]) ? error.Message : u"another code"_s;
-        } catch (const EDatabaseError& error) {
-            said = a[2] == u"0"_s ? error.Message : u"no error of the server"_s;
         }
         EXPECT_EQ(FQuery->State(), dsEdit);
         EXPECT_EQ(FQuery->FieldByName(a[0])->AsString(), a[1]);
