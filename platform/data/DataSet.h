@@ -184,6 +184,10 @@ class TDataSet : public TComponent {
     // from the one before.
     const Variant* Assigned(int column) const;
     bool IsChanged(int column) const;
+    // Higher, the later a column of the record being edited was set.
+    int Turn(int column) const;
+    // A changed blob's content when it was changed first; unassigned when it cannot be read or is unchanged.
+    Variant BlobBefore(int column) const;
     // Reads an outdated row again first. EUnreadableText with the field's label.
     Variant RowValue(int row, int column) const;
     // The same, but a text that cannot be read gives its bytes, a memo that cannot null.
@@ -236,6 +240,7 @@ class TDataSet : public TComponent {
     std::optional<QByteArray> BlobBytes(int row, int column) const;
     Variant ColumnValue(const TField* field) const;
     Variant OldColumnValue(const TField* field) const;
+    void KeepBlob(int column);
     void StoreColumn(TField* field, Variant&& value);
     void FieldsChanged();
     void AskFocus(TField* field);

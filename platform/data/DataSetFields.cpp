@@ -185,11 +185,30 @@ const Variant* TDataSet::Assigned(int column) const {
 bool TDataSet::IsChanged(int column) const {
     const Variant* edited = FEdits->Find(column);
     if (!edited) return false;
-    const Variant* before = FEdits->Default(column);
+    const Variant* before = FEdits->Before(column);
     try {
         return !(*edited == (before ? *before : RowValue(FRow, column)));
     } catch (const EUnreadableText&) {
         return true;
+    }
+}
+
+int TDataSet::Turn(int column) const {
+    return FEdits->Turn(column);
+}
+
+Variant TDataSet::BlobBefore(int column) const {
+    const Variant* before = FEdits->Before(column);
+    return before ? *before : Variant();
+}
+
+// By the time of the post others may have changed it.
+void TDataSet::KeepBlob(int column) {
+    if (!FRows->Layout().IsBlob(column) || FEdits->Find(column)) return;
+    try {
+        FEdits->KeepBefore(column, RowValue(FRow, column));
+    } catch (const EUnreadableText& error) {
+        if (!error.Reason.isEmpty()) throw;  // bytes that are no text can still be replaced
     }
 }
 
@@ -199,6 +218,7 @@ void TDataSet::StoreColumn(TField* field, Variant&& value) {
     if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
     if (value.Kind() == vkFloat && FRows->Layout().IsSingle(field->FColumn))
         value = double{static_cast<float>(value.ToDouble())};
+    if (FState == dsEdit) KeepBlob(field->FColumn);
     FEdits->Set(field->FColumn, std::move(value));
     if (field->OnChange) field->OnChange(field);
     if (auto* events = Events()) events->RecordChanged(field);

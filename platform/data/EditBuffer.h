@@ -13,23 +13,32 @@ class EditBuffer {
 
     void Clear() {
         FValues.clear();
-        FDefaults.clear();
+        FBefore.clear();
+        FTurns.clear();
         Doubtful.reset();
     }
 
     // What has been set until now are a new record's defaults: they are written but count as no change.
-    void TakeDefaults() { FDefaults = FValues; }
+    void TakeDefaults() { FBefore = FValues; }
+    // What the row holds of a column before it is set, when it cannot be asked for later.
+    void KeepBefore(int column, Variant&& value) { Put(FBefore, column, std::move(value)); }
 
     // The record as it was written when the connection was lost during its commit: it may be stored so.
     std::optional<std::vector<WriteColumn>> Doubtful;
 
     // Null when the column has not been set.
     const Variant* Find(int column) const { return Find(FValues, column); }
-    const Variant* Default(int column) const { return Find(FDefaults, column); }
+    // What a value must differ from to count as changed; null: what the row holds.
+    const Variant* Before(int column) const { return Find(FBefore, column); }
     void Set(int column, Variant&& value) {
+        Put(FValues, column, std::move(value));
+        FTurns.resize(FValues.size());
+        FTurns[static_cast<size_t>(column)] = ++FTurn;
+    }
+    // Higher, the later the column was set; 0: not set.
+    int Turn(int column) const {
         const auto index = static_cast<size_t>(column);
-        if (index >= FValues.size()) FValues.resize(index + 1);
-        FValues[index] = std::move(value);
+        return index < FTurns.size() ? FTurns[index] : 0;
     }
     // All columns up to this one at most have been set.
     int End() const { return static_cast<int>(FValues.size()); }
@@ -40,7 +49,15 @@ class EditBuffer {
         return index < values.size() && values[index] ? &*values[index] : nullptr;
     }
 
-    Values FValues, FDefaults;
+    static void Put(Values& values, int column, Variant&& value) {
+        const auto index = static_cast<size_t>(column);
+        if (index >= values.size()) values.resize(index + 1);
+        values[index] = std::move(value);
+    }
+
+    Values FValues, FBefore;
+    std::vector<int> FTurns;
+    int FTurn = 0;
 };
 
 // A record that is being typed, kept while its post may still be undone with its transaction.

@@ -136,6 +136,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     std::vector<fichario::WriteColumn>& TableColumns() const;
     std::vector<fichario::WriteColumn> DescribeTable(const UnicodeString& table) const;
     std::vector<fichario::WriteColumn>& WriteColumns() const;
+    void WriteOnce(std::vector<fichario::WriteColumn>& columns) const;
     void TakeNew(fichario::WriteColumn& column) const;
     void TakeChanged(fichario::WriteColumn& column) const;
     void RequireNoPending() const;

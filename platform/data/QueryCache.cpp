@@ -111,6 +111,7 @@ void TFDCustomQuery::WritePending(int row) {
         column.Write = column.CanWrite && column.Value != column.OldValue;
         some = some || column.Write;
     }
+    WriteOnce(columns);
     RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     if (!some) return;
     if (!pending.New) return writer.Update();

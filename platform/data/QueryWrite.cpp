@@ -7,6 +7,7 @@
 #include "platform/data/firebird/Blob.h"
 #include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/RecordWriter.h"
+#include "platform/data/firebird/SameValue.h"
 #include "platform/data/firebird/SqlRunner.h"
 #include "platform/data/PreparedQuery.h"
 #include "platform/data/Query.h"
@@ -67,11 +68,14 @@ std::vector<WriteColumn> TFDCustomQuery::DescribeTable(const UnicodeString& tabl
         column.Name = info.BaseColumn;
         column.Label = field.DisplayLabel();
         column.Type = field.DataType();
-        if (const TableColumn* facts = known.Find(info.BaseColumn))
-            column.CharacterSet = static_cast<unsigned>(facts->CharacterSet);
+        const TableColumn* facts = known.Find(info.BaseColumn);
+        if (facts) column.CharacterSet = static_cast<unsigned>(facts->CharacterSet);
+        if (field.ProviderFlags() & pfInWhere) column.Same = SameValue(column.Name, facts);
+        column.Largest = field.Description().Largest;
         column.CanWrite = (field.ProviderFlags() & pfInUpdate) && !field.Description().ReadOnly;
-        column.Compare = (field.ProviderFlags() & pfInWhere) && info.Kind != WireKind::Blob;
         column.Key = field.ProviderFlags() & pfInKey;
+        column.Again = std::any_of(columns.begin(), columns.end() - 1,
+                                   [&](const WriteColumn& other) { return other.Name == column.Name; });
     }
     return columns;
 }
@@ -80,7 +84,19 @@ std::vector<WriteColumn> TFDCustomQuery::DescribeTable(const UnicodeString& tabl
 std::vector<WriteColumn>& TFDCustomQuery::WriteColumns() const {
     std::vector<WriteColumn>& columns = TableColumns();
     for (WriteColumn& column : columns) State() == dsInsert ? TakeNew(column) : TakeChanged(column);
+    WriteOnce(columns);
     return columns;
+}
+
+// A base column that the statement gives twice is written once, with what was set last.
+void TFDCustomQuery::WriteOnce(std::vector<WriteColumn>& columns) const {
+    for (WriteColumn& column : columns) {
+        if (!column.Again || !column.Write) continue;
+        for (WriteColumn* other = columns.data(); other != &column; ++other) {
+            if (!other->Write || other->Name != column.Name) continue;
+            (Turn(other->Column) > Turn(column.Column) ? column : *other).Write = false;
+        }
+    }
 }
 
 void TFDCustomQuery::TakeNew(WriteColumn& column) const {
@@ -98,7 +114,7 @@ void TFDCustomQuery::TakeChanged(WriteColumn& column) const {
     const bool blob = Rows().Layout().IsBlob(column.Column);
     const bool changed = IsChanged(column.Column);
     column.Write = column.CanWrite && changed;
-    column.OldValue = blob ? Variant() : RowValueOrBytes(CurrentRow(), column.Column);
+    column.OldValue = blob ? BlobBefore(column.Column) : RowValueOrBytes(CurrentRow(), column.Column);
     column.Value = changed ? EditedValue(column.Column) : column.OldValue;
 }
 

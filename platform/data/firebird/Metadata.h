@@ -6,12 +6,23 @@
 
 namespace fichario {
 
+// How a text is stored.
+struct TextFacts {
+    enum class Kind { Char = 14, Varchar = 37, Blob = 261 };  // the server's numbers; others: no text
+    Kind Stored = Kind::Varchar;
+    int Characters = 0;         // of CHAR and VARCHAR
+    bool Collated = false;      // by rules that may take other letters for the same
+    UnicodeString Set;          // its character set; empty: no text
+    int BytesPerCharacter = 1;  // at most
+};
+
 struct TableColumn {
     bool NotNull = false;
     bool HasDefault = false;
     bool Computed = false;  // or otherwise not writable
     bool Identity = false;  // the server numbers it
     int CharacterSet = 0;   // of a text, by the server's number
+    TextFacts Text;
 };
 
 struct TableInfo {

@@ -1,8 +1,11 @@
 #include "platform/data/firebird/RecordWriter.h"
 
+#include <algorithm>
 #include "platform/data/firebird/CharacterSets.h"
-#include "platform/data/firebird/ErrorCodes.h"
+#include "platform/data/firebird/Metadata.h"
 #include "platform/data/firebird/Misfits.h"
+#include "platform/data/firebird/SqlRunner.h"
+#include "platform/data/firebird/WriteErrors.h"
 #include "platform/data/Sql.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,6 +14,8 @@ namespace fichario {
 
 namespace {
 
+const UnicodeString kUndoable = u"SAVEPOINT REGISTRO"_s, kUndo = u"ROLLBACK TO SAVEPOINT REGISTRO"_s,
+                    kKeep = u"RELEASE SAVEPOINT REGISTRO ONLY"_s;
 const UnicodeString kAnd = u" AND "_s;
 const UnicodeString kComma = u", "_s;
 constexpr char kNone = 0, kOurs = 1, kServers = 2;  // whose value a column of an insertion gets
@@ -22,8 +27,8 @@ void WriteWork::Bind(const WriteColumn& column, const Variant& value) {
     Places.push_back(&column);
 }
 
-// The key as it was, and the old values of what is being changed.
-void RecordWriter::AddConditions(WriteWork& work) const {
+// The key as it was.
+TStringArray RecordWriter::KeyConditions(WriteWork& work) const {
     TStringArray conditions;
     for (const WriteColumn& column : FColumns) {
         if (!column.Key) continue;
@@ -32,12 +37,23 @@ void RecordWriter::AddConditions(WriteWork& work) const {
     }
     if (conditions.empty())
         throw EDatabaseError(u"No key field in table '%1': the record cannot be written"_s.arg(FTable));
+    return conditions;
+}
+
+// The old values of what is being changed.
+TStringArray RecordWriter::OldConditions(WriteWork& work) const {
+    TStringArray conditions;
     for (const WriteColumn& column : FColumns) {
-        if (!column.Write || !CanCompare(column) || column.Key) continue;
-        conditions.push_back(QuoteIdentifier(column.Name) + u" IS NOT DISTINCT FROM ?"_s);
+        if (!column.Write || column.Key || !CanCompare(column)) continue;
+        conditions.push_back(column.Same);
         work.Bind(column, column.OldValue);
     }
-    work.Sql += u" WHERE "_s + Joined(conditions, kAnd);
+    return conditions;
+}
+
+void RecordWriter::AddConditions(WriteWork& work) const {
+    work.Sql += u" WHERE "_s + Joined(KeyConditions(work), kAnd);
+    for (const UnicodeString& condition : OldConditions(work)) work.Sql += kAnd + condition;
 }
 
 // The first character of a text that does not reach the column; empty when all do.
@@ -48,7 +64,8 @@ UnicodeString RecordWriter::LostOf(const WriteColumn& column, const Variant& val
 
 // An old text that cannot be read, or not be sent over this connection, can still be replaced.
 bool RecordWriter::CanCompare(const WriteColumn& column) const {
-    if (!column.Compare || column.OldValue.Kind() == vkBytes) return false;
+    if (column.Same.isEmpty() || column.OldValue.IsUnassigned()) return false;
+    if (column.OldValue.Kind() == vkBytes) return column.Type == ftBlob;
     if (column.OldValue.Kind() != vkText) return true;
     const bool sent = FAttachment.CharacterSet() == kNoSet ||
                       FirstForeign(FAttachment.Encoding(), column.OldValue.ToText()).isEmpty();
@@ -63,20 +80,40 @@ void RecordWriter::CheckCharacters(const WriteWork& work) const {
     }
 }
 
-// A value that is missing is told with the label of its field.
-template <class Run>
-int64_t RecordWriter::NamingFields(Run run) const {
-    try {
-        return run();
-    } catch (const EFDError& error) {
-        if (!error.Has(kNotValid)) throw;
-        for (const WriteColumn& column : FColumns) {
-            if (!error.Constraint.endsWith(u".\"%1\""_s.arg(column.Name))) continue;
-            throw error.Saying(
-                u"Entre com um valor para o campo \"%1\" antes de prosseguir."_s.arg(column.Label));
-        }
-        throw;
+// Whether no two records can share the key columns that are here.
+bool RecordWriter::KeyIsWhole() const {
+    const TStringArray& key = FAttachment.Tables().Table(FTable).Key;
+    return !key.empty() && std::all_of(key.begin(), key.end(), [this](const UnicodeString& name) {
+        return std::any_of(FColumns.begin(), FColumns.end(),
+                           [&](const WriteColumn& column) { return column.Key && column.Name == name; });
+    });
+}
+
+// Runs a change of one record. When it finds several, even a host's transaction is left as it was.
+int64_t RecordWriter::ChangeOne(FunctionRef<int64_t()> run) {
+    const bool undoable = FAttachment.Host() && !KeyIsWhole();
+    if (undoable) ExecuteSql(FAttachment, kUndoable, {});
+    const int64_t changed = run();
+    if (undoable) ExecuteSql(FAttachment, changed > 1 ? kUndo : kKeep, {});
+    if (changed == 0) TellWhatHappened();
+    if (changed > 1) throw EDatabaseError(u"The key fields of '%1' find several records"_s.arg(FTable));
+    return changed;
+}
+
+// The server judges again what no longer held.
+void RecordWriter::TellWhatHappened() const {
+    WriteWork work;
+    work.Sql = u"SELECT 1"_s;
+    for (const UnicodeString& same : OldConditions(work)) work.Sql += u", IIF("_s + same + u", 0, 1)"_s;
+    const size_t compared = work.Places.size();
+    work.Sql += u" FROM "_s + QuoteIdentifier(FTable) + u" WHERE "_s + Joined(KeyConditions(work), kAnd);
+    const RowStore found = ReadRows(FAttachment, work.Sql, work.Values);
+    if (found.Count() == 0) throw DeletedByOthers(FColumns);
+    TStringArray changed;
+    for (size_t i = 0; i < compared; ++i) {
+        if (found.Value(0, static_cast<int>(i) + 1).ToInt() != 0) changed.push_back(work.Places[i]->Label);
     }
+    throw ChangedByOthers(FColumns, changed);
 }
 
 int64_t RecordWriter::Execute(WriteWork& work, RowStore* returned) {
@@ -87,13 +124,13 @@ int64_t RecordWriter::Execute(WriteWork& work, RowStore* returned) {
     if (returned && !statement.Columns().empty()) *returned = RowStore(RowLayout(statement.Columns()));
     CheckCharacters(work);
     WriteScope write(FAttachment);
-    const int64_t changed =
-        NamingFields([&] { return statement.Execute(*write.Get(), input, returned, CallKind::Write); });
-    if (!returned && changed == 0) {
-        throw EDatabaseError(u"Este registro foi alterado ou excluído por outro usuário."_s);
+    const auto run = [&] { return statement.Execute(*write.Get(), input, returned, CallKind::Write); };
+    int64_t changed = 0;
+    try {
+        changed = returned ? run() : ChangeOne(run);
+    } catch (const EFDError& error) {
+        throw NamingFields(error, FTable, FColumns);
     }
-    if (!returned && changed > 1)
-        throw EDatabaseError(u"The key fields of '%1' find several records"_s.arg(FTable));
     Commit(write);
     return changed;
 }

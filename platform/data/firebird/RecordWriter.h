@@ -6,6 +6,7 @@
 #include "platform/data/firebird/InputMessage.h"
 #include "platform/data/firebird/RowStore.h"
 #include "platform/data/firebird/WriteColumn.h"
+#include "platform/rtl/FunctionRef.h"
 
 namespace fichario {
 
@@ -31,8 +32,9 @@ class RecordWriter {
     RecordWriter(Attachment& attachment, const UnicodeString& table, const std::vector<WriteColumn>& columns)
         : FAttachment(attachment), FTable(table), FColumns(columns) {}
 
-    // Each in the host's transaction or a short one of its own. EDatabaseError when another user changed or
-    // deleted the record, when there is no key column (English), or when a text cannot be stored; EFDError.
+    // Each in the host's transaction or a short one of its own. EFDError, also when another user changed or
+    // deleted the record or a text cannot be stored; EDatabaseError (English) when there is no key column or
+    // those there are find several records, of which none is changed then.
     void Update();
     void Delete();
     // Returns the key's values when the server made one of them, which are read back; else nothing. `last`
@@ -48,12 +50,15 @@ class RecordWriter {
   private:
     bool TakeValues(Insertion& insertion) const;
     UnicodeString InsertSql() const;
+    TStringArray KeyConditions(WriteWork& work) const;
+    TStringArray OldConditions(WriteWork& work) const;
     void AddConditions(WriteWork& work) const;
     UnicodeString LostOf(const WriteColumn& column, const Variant& value) const;
     bool CanCompare(const WriteColumn& column) const;
     void CheckCharacters(const WriteWork& work) const;
-    template <class Run>
-    int64_t NamingFields(Run run) const;
+    bool KeyIsWhole() const;
+    int64_t ChangeOne(FunctionRef<int64_t()> run);
+    [[noreturn]] void TellWhatHappened() const;
     int64_t Execute(WriteWork& work, RowStore* returned = nullptr);
     void Commit(WriteScope& write);
     TStringArray MissingKey() const;

@@ -14,11 +14,13 @@ struct WriteColumn {
     TFieldType Type = ftUnknown;
     unsigned CharacterSet = kNoSet;  // of a text column
     Variant Value;                   // now
-    Variant OldValue;                // when the edit began; not read for blobs
+    Variant OldValue;                // when the edit began; unassigned: not known
+    UnicodeString Same;              // the condition that the old value still is there; empty: it need not be
+    double Largest = 0;              // number that the column holds; 0: any, or no number
     bool CanWrite = false;
-    bool Write = false;    // goes into the statement
-    bool Compare = false;  // its old value must still be there, if it can be asked for
+    bool Write = false;  // goes into the statement
     bool Key = false;
+    bool Again = false;  // an earlier one is of the same base column
 };
 
 }  // namespace fichario

@@ -42,7 +42,7 @@ TEST_F(DataTest, NoIncrementIsLostBetweenUsers) {
         const UnicodeString message = MessageOf([&] { user->Post(); });
         accepted += message.isEmpty();
         if (message.isEmpty()) continue;
-        EXPECT_EQ(message, u"Este registro foi alterado ou excluído por outro usuário.");
+        EXPECT_EQ(message, u"O registro ID 1 foi alterado por outro usuário (QTD).");
         user->Cancel();
         user->Refresh();
     }
