@@ -10,6 +10,7 @@ namespace fichario {
 namespace {
 
 constexpr unsigned kUnicodeFss = 3;
+constexpr unsigned kSetBits = 0xFF;  // the collation stands above them
 
 WireKind KindOf(unsigned type) {
     switch (type & ~1u) {
@@ -57,7 +58,7 @@ ColumnList ColumnsOf(Firebird::ThrowStatusWrapper& status, Firebird::IMessageMet
         column.Offset = format.getOffset(&status, i);
         column.NullOffset = format.getNullOffset(&status, i);
         column.Encoding = attachment.Encoding();
-        column.CharacterSet = format.getCharSet(&status, i);
+        column.CharacterSet = format.getCharSet(&status, i) & kSetBits;
         if (IsText(column.Kind)) DescribeText(column);
     }
     return columns;
