@@ -2,6 +2,8 @@
 
 #include "platform/data/SqlLexer.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace fichario {
 
 namespace {
@@ -48,10 +50,10 @@ int PlaceOf(TStringArray& names, const UnicodeString& name) {
     return static_cast<int>(names.size()) - 1;
 }
 
-}  // namespace
-
-ScannedSql ScanParams(QStringView sql) {
-    ScannedSql result;
+// The statement with what `written` gives in place of each parameter.
+template <class Written>
+UnicodeString Rewritten(QStringView sql, Written written) {
+    UnicodeString result;
     SqlLexer lexer(sql);
     ParamZone zone;
     qsizetype copied = 0;
@@ -59,13 +61,33 @@ ScannedSql ScanParams(QStringView sql) {
         const bool parameter =
             token.Kind == SqlTokenKind::Parameter || token.Kind == SqlTokenKind::Positional;
         if (!zone.Holds(token) || !parameter) continue;
-        result.Text += sql.mid(copied, token.Start - copied);
-        result.Text += u'?';
+        result += sql.mid(copied, token.Start - copied);
+        result += written(token);
         copied = token.End();
-        result.Places.push_back(PlaceOf(result.Names, NameAsWritten(token, result.Places.size() + 1)));
     }
-    result.Text += sql.mid(copied);
+    result += sql.mid(copied);
     return result;
+}
+
+}  // namespace
+
+ScannedSql ScanParams(QStringView sql) {
+    ScannedSql result;
+    result.Text = Rewritten(sql, [&](const SqlToken& token) {
+        result.Places.push_back(PlaceOf(result.Names, NameAsWritten(token, result.Places.size() + 1)));
+        return u"?"_s;
+    });
+    return result;
+}
+
+// FIRST and SKIP take an expression in parentheses only.
+UnicodeString WithCasts(QStringView sql, const std::vector<ParamCast>& casts) {
+    size_t place = 0;
+    auto next = casts.begin();
+    return Rewritten(sql, [&](const SqlToken&) {
+        if (next == casts.end() || next->Place != place++) return u"?"_s;
+        return u"(CAST(? AS %1))"_s.arg((next++)->Type);
+    });
 }
 
 }  // namespace fichario

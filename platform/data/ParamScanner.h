@@ -21,4 +21,14 @@ struct ScannedSql {
 // Never fails. A ? that the statement holds already is a parameter named by its number from 1 among all.
 ScannedSql ScanParams(QStringView sql);
 
+// A positional parameter that is to have a type of its own.
+struct ParamCast {
+    size_t Place;        // from 0
+    UnicodeString Type;  // in SQL: "NUMERIC(18,3)"
+};
+
+// The statement, whose parameters are positional, with those of `casts`, which come in the order of their
+// places, converted to their types: (CAST(? AS NUMERIC(18,3))).
+UnicodeString WithCasts(QStringView sql, const std::vector<ParamCast>& casts);
+
 }  // namespace fichario

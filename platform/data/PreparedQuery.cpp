@@ -1,6 +1,7 @@
 #include "platform/data/PreparedQuery.h"
 
 #include <cmath>
+#include <utility>
 
 #include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/ErrorCodes.h"
@@ -33,7 +34,7 @@ PreparedQuery::PreparedQuery(std::shared_ptr<Attachment> attachment, const Unico
           Searchable(sql, [&](QStringView text) { return FirstForeign(FAttachment->Encoding(), text); }))),
       FShape(FSql.Text),
       FStatement(First(sql)) {
-    Learn();
+    Learn(*FStatement);
 }
 
 // A literal is brought into its column's set while the statement is prepared.
@@ -51,13 +52,12 @@ StatementLease PreparedQuery::First(const UnicodeString& sql) {
     }
 }
 
-void PreparedQuery::Learn() {
-    if (FShape.IsJoin()) FStatement->DescribeAliases();
-    FColumns = FStatement->Columns();
+void PreparedQuery::Learn(Statement& statement) {
+    if (FShape.IsJoin() && !FWide) statement.DescribeAliases();
+    FColumns = FWide ? WideColumns(FNarrow, statement.Columns()) : statement.Columns();
     ForgetForeignTables();
     FLayout = RowLayout(FColumns);
-    FInputs = FStatement->Inputs();
-    FHasCursor = FStatement->HasCursor();
+    FHasCursor = statement.HasCursor();
 }
 
 // The server tells the table inside a SELECT among the columns, and that of a UNION's first part.
@@ -70,32 +70,36 @@ void PreparedQuery::ForgetForeignTables() {
     }
 }
 
-StatementLease PreparedQuery::Take() {
-    if (FStatement && !FStatement->IsCurrent()) FStatement = {};
-    if (!FStatement && FWide) {
-        PrepareWide();
-    } else if (!FStatement) {
-        FStatement = FAttachment->Prepare(FSql.Text);
-        Learn();
-    }
-    return std::move(FStatement);
+void PreparedQuery::PrepareAgain() {
+    FStatement = FAttachment->Prepare(FWide ? FShape.AroundText(WideItems(FNarrow)) : FSql.Text);
+    Learn(*FStatement);
 }
 
-void PreparedQuery::PrepareWide() {
-    FStatement = FAttachment->Prepare(FShape.AroundText(WideItems(FNarrow)));
-    FColumns = WideColumns(FNarrow, FStatement->Columns());
-    FLayout = RowLayout(FColumns);
+BoundStatement PreparedQuery::Bind(const std::vector<InputValue>& values) {
+    if (FStatement && !FStatement->IsCurrent()) FStatement = {};
+    if (!FStatement) PrepareAgain();
+    BoundStatement bound(*FAttachment, std::move(FStatement), values);
+    if (bound.Cast()) Learn(*bound.Statement);
+    return bound;
 }
 
 bool PreparedQuery::Widen() {
     if (FWide || !FHasCursor || !FShape.IsSelect()) return false;
     FNarrow = FColumns;
+    FWide = true;
     try {
-        PrepareWide();
+        PrepareAgain();
     } catch (const EFDError&) {
-        return false;
+        FWide = false;
     }
-    return FWide = true;
+    return FWide;
+}
+
+void PreparedQuery::Narrow() {
+    if (!std::exchange(FWide, false)) return;
+    FStatement = {};
+    FColumns = FNarrow;
+    FLayout = RowLayout(FColumns);
 }
 
 RowStore PreparedQuery::Read(const UnicodeString& sql, const std::vector<InputValue>& values) const {

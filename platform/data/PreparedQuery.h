@@ -1,6 +1,7 @@
 // A query's statement as prepared on its connection, with what is known of its columns.
 #pragma once
 #include "platform/data/fields/BaseField.h"
+#include "platform/data/firebird/BoundStatement.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/firebird/RowStore.h"
 #include "platform/data/firebird/Statement.h"
@@ -8,8 +9,6 @@
 #include "platform/data/SqlShape.h"
 
 namespace fichario {
-
-struct InputValue;
 
 class PreparedQuery {
   public:
@@ -22,19 +21,20 @@ class PreparedQuery {
     const ColumnList& Columns() const { return FColumns; }
     // How rows of these columns are kept.
     const RowLayout& Layout() const { return FLayout; }
-    const ColumnList& Inputs() const { return FInputs; }
     bool HasCursor() const { return FHasCursor; }
 
     // What the last record was inserted with, for those who write them.
     Insertion LastInsert;
 
-    // The prepared statement, for one use. When the one from the beginning is in use it is prepared again,
-    // and what this object knows of columns follows it.
-    StatementLease Take();
+    // The prepared statement with its input, for one use. When the one from the beginning is in use, or
+    // `values` need casts, it is prepared again, and what this object knows of columns follows it.
+    BoundStatement Bind(const std::vector<InputValue>& values);
 
     // Has texts come as UTF-8 from now on, past the connection's character set. False when that cannot be, or
     // is so already.
     bool Widen();
+    // As before Widen, when that was of no use.
+    void Narrow();
     bool IsWide() const { return FWide; }
     // All rows of a statement that gives this one's columns.
     RowStore Read(const UnicodeString& sql, const std::vector<InputValue>& values) const;
@@ -46,16 +46,16 @@ class PreparedQuery {
 
   private:
     StatementLease First(const UnicodeString& sql);
-    void Learn();
+    void PrepareAgain();
+    void Learn(Statement& statement);
     void ForgetForeignTables();
-    void PrepareWide();
     TFieldDescription Describe(const ColumnInfo& column, const UnicodeString& table) const;
 
     std::shared_ptr<Attachment> FAttachment;
     ScannedSql FSql;
     SqlShape FShape;
     StatementLease FStatement;
-    ColumnList FColumns, FInputs;
+    ColumnList FColumns;
     RowLayout FLayout;
     ColumnList FNarrow;  // the columns before they were wide
     bool FHasCursor = false;

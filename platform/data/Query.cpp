@@ -23,12 +23,12 @@ using Use = TFDCustomConnection::Use;
 
 constexpr int kFirstPage = 64;
 
-// Whether a search holds what some column's set lacks: no record can hold it either.
+// Whether a search holds what some column's set lacks: no record can hold it either. Over a connection
+// without a set a text that is cast goes as UTF-8.
 bool SeeksForeign(const Attachment& attachment, const UnicodeString& sql,
                   const std::vector<InputValue>& values) {
-    const auto foreign = [&](const UnicodeString& text) {
-        return !FirstDoubtful(attachment.CharacterSet(), text).isEmpty();
-    };
+    const unsigned set = attachment.CharacterSet() == kNoSet ? kUtf8Set : attachment.CharacterSet();
+    const auto foreign = [&](const UnicodeString& text) { return !FirstDoubtful(set, text).isEmpty(); };
     return foreign(sql) || std::any_of(values.begin(), values.end(), [&](const InputValue& input) {
                return input.Value().Kind() == vkText && foreign(input.Value().Text());
            });
@@ -93,10 +93,19 @@ void TFDCustomQuery::DoDescribe() {
     TakeColumns();
 }
 
-std::vector<InputValue> TFDCustomQuery::Inputs() const {
+TFDCustomQuery::TGiven TFDCustomQuery::Given() const {
+    TGiven given;
+    for (int i = 0; i < FParams.Count(); ++i) given.emplace_back(FParams[i]->Value(), FParams[i]->DataType());
+    return given;
+}
+
+// For each place of the statement.
+std::vector<InputValue> TFDCustomQuery::InputsOf(const TGiven& given) const {
     std::vector<InputValue> values;
-    for (const int place : FPrepared->Sql().Places)
-        values.emplace_back(FParams[place]->Value(), FParams[place]->DataType());
+    for (const int place : FPrepared->Sql().Places) {
+        const auto& [value, type] = given[static_cast<size_t>(place)];
+        values.emplace_back(value, type);
+    }
     return values;
 }
 
@@ -104,26 +113,28 @@ std::vector<InputValue> TFDCustomQuery::Inputs() const {
 
 // Runs the statement and brings its first rows. False: those were all. A stored character that the
 // connection's set lacks fails the row it is in: then all texts come as UTF-8.
-bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<Cursor>& cursor, int count) {
+bool TFDCustomQuery::OpenRows(std::unique_ptr<RowStore>& rows, std::unique_ptr<Cursor>& cursor, int count,
+                              const TGiven& given) {
     FFits = false;
     const std::shared_ptr<Attachment>& attachment = FPrepared->On();
+    const std::vector<InputValue> inputs = InputsOf(given);
     const auto read = [&](std::shared_ptr<Transaction> transaction, int wanted) {
-        StatementLease statement = FPrepared->Take();
+        BoundStatement bound = FPrepared->Bind(inputs);
         rows = std::make_unique<RowStore>(FPrepared->Layout());
-        InputMessage input(*attachment, FPrepared->Inputs(), Inputs());
-        if (input.Misfit()) return;
-        cursor = std::make_unique<Cursor>(attachment, std::move(statement), std::move(transaction), input,
-                                          *rows, wanted);
+        if (bound.Input->Misfit()) return;
+        cursor = std::make_unique<Cursor>(attachment, std::move(bound.Statement), std::move(transaction),
+                                          *bound.Input, *rows, wanted);
     };
     try {
         read(attachment->Reading(), count);
     } catch (const EFDError& error) {
-        if (error.Has(kTransliteration) && SeeksForeign(*attachment, FPrepared->Sql().Text, Inputs())) {
+        if (error.Has(kTransliteration) && FPrepared->Widen()) return OpenRows(rows, cursor, count, given);
+        if (error.Has(kTransliteration) && SeeksForeign(*attachment, FPrepared->Sql().Text, inputs)) {
+            FPrepared->Narrow();
             rows = std::make_unique<RowStore>(FPrepared->Layout());
             cursor.reset();
             return false;
         }
-        if (error.Has(kTransliteration) && FPrepared->Widen()) return OpenRows(rows, cursor, count);
         if (error.Has(kTransliteration))
             throw error.Saying(
                 u"Um texto guardado tem um caractere que o resultado da consulta não comporta."_s);
@@ -145,19 +156,21 @@ bool TFDCustomQuery::DoOpen() {
 
 bool TFDCustomQuery::OpenOnce() {
     RequirePrepared();
+    TGiven given = Given();
     std::unique_ptr<RowStore> rows;
     std::unique_ptr<Cursor> cursor;
     bool more = false;
     if (FPrepared->HasCursor()) {
-        more = OpenRows(rows, cursor, kFirstPage);
+        more = OpenRows(rows, cursor, kFirstPage, given);
     } else if (!FPrepared->Columns().empty()) {
         rows = std::make_unique<RowStore>();
-        ExecuteSql(*FPrepared->On(), FPrepared->Sql().Text, Inputs(), rows.get());
+        ExecuteSql(*FPrepared->On(), FPrepared->Sql().Text, InputsOf(given), rows.get());
     } else {
         throw EDatabaseError(u"The statement returns no rows; use ExecSQL"_s);
     }
     TakeColumns();
     TakeRows(std::move(rows), std::move(cursor));
+    FOpenedWith = std::move(given);
     return more;
 }
 
@@ -197,7 +210,7 @@ bool TFDCustomQuery::FetchAgain(int rows) {
     const int wanted = rows > std::numeric_limits<int>::max() - RowCount() ? rows : RowCount() + rows;
     std::unique_ptr<RowStore> wide;
     std::unique_ptr<Cursor> cursor;
-    const bool more = OpenRows(wide, cursor, wanted);
+    const bool more = OpenRows(wide, cursor, wanted, FOpenedWith);
     TakeRows(std::move(wide), std::move(cursor));
     return more;
 }
@@ -215,7 +228,8 @@ int TFDCustomQuery::DoCount() {
 
 int TFDCustomQuery::CountOnServer() {
     const PreparedQuery& prepared = RequirePrepared();
-    const RowStore count = ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), Inputs());
+    const RowStore count =
+        ReadRows(*prepared.On(), prepared.Shape().CountText(FieldCount()), InputsOf(FOpenedWith));
     return count.Count() > 0 ? count.Value(0, 0).ToInt() : 0;
 }
 
@@ -224,7 +238,8 @@ int TFDCustomQuery::ExecSQL() {
         const PreparedQuery& prepared = RequirePrepared();
         if (prepared.HasCursor()) throw EDatabaseError(u"The statement returns rows; use Open"_s);
         const UnicodeString sql = prepared.Sql().Text;
-        const std::vector<InputValue> values = Inputs();
+        const TGiven given = Given();
+        const std::vector<InputValue> values = InputsOf(given);
         const std::shared_ptr<Attachment> attachment = prepared.On();
         FPrepared.reset();
         return static_cast<int>(ExecuteSql(*attachment, sql, values));

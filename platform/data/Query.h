@@ -72,6 +72,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     // The statement. A change closes the dataset; parameters of the same name keep their values, fields stay.
     TStrings* SQL() { return &FSQL; }
     TFDParams& Params() { return FParams; }
+    // What is set while the dataset is open counts when it is opened or refreshed.
     // EDatabaseError "Parameter 'X' not found".
     TFDParam* ParamByName(const UnicodeString& name) const { return FParams.ParamByName(name); }
     TFDParam* FindParam(const UnicodeString& name) const { return FParams.FindParam(name); }
@@ -130,9 +131,12 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     bool FetchAgain(int rows);
     void RequireWriting();
     void DeleteRecord();
-    std::vector<fichario::InputValue> Inputs() const;
+    // Values of the parameters, and the kinds they are sent as.
+    using TGiven = std::vector<std::pair<Variant, TFieldType>>;
+    TGiven Given() const;
+    std::vector<fichario::InputValue> InputsOf(const TGiven& given) const;
     bool OpenRows(std::unique_ptr<fichario::RowStore>& rows, std::unique_ptr<fichario::Cursor>& cursor,
-                  int count);
+                  int count, const TGiven& given);
     std::vector<fichario::WriteColumn>& TableColumns() const;
     std::vector<fichario::WriteColumn> DescribeTable(const UnicodeString& table) const;
     std::vector<fichario::WriteColumn>& WriteColumns() const;
@@ -171,6 +175,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
 
     TStringList FSQL;
     TFDParams FParams;
+    TGiven FOpenedWith;  // the rows here answer to these
     mutable std::unique_ptr<fichario::PreparedQuery> FPrepared;
     std::unique_ptr<fichario::Cursor> FCursor;
     // In which the rows were read, and those by their place that were read again in another.

@@ -293,7 +293,7 @@ RowStore TFDCustomQuery::ReadKeyed(const std::vector<WriteColumn>& columns) cons
         key.emplace_back(column.Value, column.Type);
     }
     if (names.empty() || !shape.IsPlain() || FColumnsTable != shape.MainTable()) return {};
-    std::vector<InputValue> values = Inputs();
+    std::vector<InputValue> values = InputsOf(FOpenedWith);
     values.insert(values.begin() + shape.ParamsBeforeWhere(), key.begin(), key.end());
     return FPrepared->Read(shape.KeyedText(names), values);
 }

@@ -1,5 +1,6 @@
 #include "platform/data/firebird/Cursor.h"
 
+#include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/FbApi.h"
 
 namespace fichario {
@@ -18,6 +19,9 @@ Cursor::Cursor(std::shared_ptr<Attachment> attachment, StatementLease statement,
                                                        input.Bytes(), FStatement->RowFormat(), 0);
             fetched = TakeRows(status, store, rows);
         });
+    } catch (const EFDError& error) {
+        Close();
+        if (!error.Has(kKeyTooLong) || store.Count() > 0) throw;
     } catch (...) {
         Close();
         throw;

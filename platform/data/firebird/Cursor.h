@@ -16,7 +16,7 @@ namespace fichario {
 class Cursor {
   public:
     // Executes in `transaction`, which it keeps, and brings the first `rows` rows into `store` in the same
-    // call. EFDError.
+    // call. EFDError. A value that is longer than any key of the index it is sought in finds nothing.
     Cursor(std::shared_ptr<Attachment> attachment, StatementLease statement,
            std::shared_ptr<Transaction> transaction, InputMessage& input, RowStore& store, int rows);
     ~Cursor();

@@ -18,5 +18,6 @@ constexpr int64_t kDuplicateIndex = 335544349;   // the same by a unique index a
 constexpr int64_t kNoTarget = 335544838;         // a foreign key's record is not there
 constexpr int64_t kOutOfRange = 335544916;       // a number beyond its column
 constexpr int64_t kChangedByOthers = 335544878;  // another transaction changed the record
+constexpr int64_t kKeyTooLong = 335544434;       // a value sought is longer than any key of an index
 
 }  // namespace fichario

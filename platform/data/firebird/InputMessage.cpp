@@ -1,8 +1,10 @@
 #include "platform/data/firebird/InputMessage.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include "platform/data/firebird/Blob.h"
+#include "platform/data/firebird/Casts.h"
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/InputValues.h"
 #include "platform/data/firebird/PlainMessage.h"
@@ -31,6 +33,8 @@ struct TimeBytes {
 };
 
 TimeBytes TimeBytesOf(WireKind kind, TDateTime value) {
+    if (!IsWireDate(value))
+        throw EConvertError(u"'%1' não é uma data e hora válida."_s.arg(Variant(value.Value).ToText()));
     const WireStamp stamp = ToWire(value);
     if (kind == WireKind::Date) return {SQL_TYPE_DATE, BytesOf(stamp.Days)};
     if (kind == WireKind::Time) return {SQL_TYPE_TIME, BytesOf(stamp.Ticks)};
@@ -45,6 +49,10 @@ qsizetype CharactersIn(QStringView text) {
 bool IsTooLong(const ColumnInfo& described, const UnicodeString& text, const QByteArray& bytes) {
     if (IsText(described.Kind)) return CharactersIn(text) > described.Characters;
     return described.Kind != WireKind::Blob && bytes.size() > kLongestText;
+}
+
+int LimitOf(const ColumnInfo& described) {
+    return IsText(described.Kind) ? described.Characters : static_cast<int>(kLongestText);
 }
 
 }  // namespace
@@ -73,8 +81,8 @@ InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& descri
     if (!bytes) {
         FMisfit = fichario::Misfit{place, FirstForeign(encoding, text), 0};
     } else if (IsTooLong(described, text, *bytes)) {
-        FMisfit = fichario::Misfit{
-            place, {}, IsText(described.Kind) ? described.Characters : static_cast<int>(kLongestText)};
+        FMisfit = fichario::Misfit{place, {}, LimitOf(described)};
+        if (IsText(described.Kind)) NeedCast(place, CastOfText(described, CharactersIn(text)));
     } else if (described.Kind == WireKind::NullTest) {
         return Part::Of(0, {});
     } else if (blob && bytes->size() > kLongestText) {
@@ -87,10 +95,30 @@ InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& descri
     return {};
 }
 
-InputMessage::Part InputMessage::DecimalPart(const Decimal& value) {
-    Part part = Part::Of(SQL_INT64, BytesOf(value.Unscaled));
-    part.Scale = -value.Scale;
+InputMessage::Part InputMessage::BytesPart(size_t place, const ColumnInfo& described,
+                                           const QByteArray& bytes) {
+    if (described.Kind == WireKind::Blob) return Part::OfBlob(bytes);
+    const qsizetype most = IsText(described.Kind) ? described.Length : kLongestText;
+    if (bytes.size() <= most) return Part::Of(SQL_VARYING, Counted(bytes));
+    FMisfit = fichario::Misfit{place, {}, LimitOf(described)};
+    return {};
+}
+
+InputMessage::Part InputMessage::NumberPart(size_t place, const ColumnInfo& described,
+                                            const Variant& number) {
+    const bool isFloat = number.Kind() == vkFloat;
+    if (isFloat && !std::isfinite(number.ToDouble()))
+        throw EConvertError(u"'%1' não é um número válido."_s.arg(number.ToText()));
+    NeedCast(place, CastOfNumber(described, number));
+    if (isFloat) return Part::Of(SQL_DOUBLE, BytesOf(number.ToDouble()));
+    const Decimal decimal = number.ToDecimal();
+    Part part = Part::Of(SQL_INT64, BytesOf(decimal.Unscaled));
+    part.Scale = -decimal.Scale;
     return part;
+}
+
+void InputMessage::NeedCast(size_t place, const UnicodeString& type) {
+    if (!type.isEmpty()) FCasts.push_back({place, type});
 }
 
 InputMessage::Part InputMessage::PartOf(size_t place, const ColumnInfo& described, const InputValue& input) {
@@ -99,18 +127,16 @@ InputMessage::Part InputMessage::PartOf(size_t place, const ColumnInfo& describe
     if (described.Kind == WireKind::NullTest) return Part::Of(0, {});
     switch (value.Kind()) {
         case vkBoolean: return Part::Of(SQL_BOOLEAN, BytesOf(static_cast<uint8_t>(value.ToBool())));
-        case vkInteger: return Part::Of(SQL_INT64, BytesOf(value.ToInt64()));
-        case vkFloat: return Part::Of(SQL_DOUBLE, BytesOf(value.ToDouble()));
+        case vkInteger:
+        case vkFloat:
         case vkCurrency:
-        case vkDecimal: return DecimalPart(value.ToDecimal());
+        case vkDecimal: return NumberPart(place, described, value);
         case vkDateTime: {
             const TimeBytes time = TimeBytesOf(MeantTimeKind(described, input), value.ToDateTime());
             return Part::Of(time.Type, time.Bytes);
         }
         case vkText: return TextPart(place, described, value.ToText());
-        case vkBytes:
-            if (described.Kind == WireKind::Blob) return Part::OfBlob(value.ToBytes());
-            return Part::Of(SQL_VARYING, Counted(value.ToBytes()));
+        case vkBytes: return BytesPart(place, described, value.ToBytes());
         default: throw EDatabaseError(u"An array cannot be a parameter"_s);
     }
 }

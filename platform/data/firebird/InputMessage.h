@@ -1,13 +1,15 @@
-// The parameters of one execution: each value goes to the server as the kind it has, not as the kind
-// described.
+// The parameters of one execution: each value goes to the server as the kind it has, and the server brings it
+// to the kind described.
 //
 //     InputMessage input(attachment, statement.Inputs(), values);
-//     if (input.Misfit()) …                    // a text that no record can hold
+//     if (input.Misfit()) …                    // a text that its place cannot hold
+//     if (!input.Casts().empty()) …            // the server would change a value; see BoundStatement.h
 #pragma once
 #include <optional>
 #include <QVarLengthArray>
 #include "platform/data/firebird/Columns.h"
 #include "platform/data/firebird/Statement.h"
+#include "platform/data/ParamScanner.h"
 #include "platform/rtl/Variant.h"
 
 namespace Firebird {
@@ -28,10 +30,10 @@ struct InputValue {
     const Variant* FValue;
 };
 
-// A text that its place cannot hold.
+// A text, or bytes, that its place cannot hold.
 struct Misfit {
     size_t Place;             // from 0
-    UnicodeString Character;  // the character that the character set lacks; empty: the text is too long
+    UnicodeString Character;  // the character that the character set lacks; empty: it is too long
     int Limit;                // the characters that fit
 };
 
@@ -41,13 +43,15 @@ using MessageBytes = QVarLengthArray<uint8_t, 512>;
 class InputMessage {
   public:
     // `values` as many as `described`, else EDatabaseError. A text for a number or date is read by
-    // FormatSettings: EConvertError when it is none.
+    // FormatSettings: EConvertError when it is none, and for what is no number or no date of the server's.
     InputMessage(Attachment& attachment, const ColumnList& described, const std::vector<InputValue>& values);
     ~InputMessage();
     InputMessage(const InputMessage&) = delete;
     InputMessage& operator=(const InputMessage&) = delete;
 
     const std::optional<fichario::Misfit>& Misfit() const { return FMisfit; }
+    // The types that values need where the place as described would change or not hold them.
+    const std::vector<ParamCast>& Casts() const { return FCasts; }
 
     // Writes blobs in `transaction` and lays the message out. Statement and cursor call it before they
     // execute.
@@ -75,8 +79,10 @@ class InputMessage {
     };
 
     Part PartOf(size_t place, const ColumnInfo& described, const InputValue& value);
-    static Part DecimalPart(const Decimal& value);
+    Part NumberPart(size_t place, const ColumnInfo& described, const Variant& number);
     Part TextPart(size_t place, const ColumnInfo& described, const UnicodeString& text);
+    Part BytesPart(size_t place, const ColumnInfo& described, const QByteArray& bytes);
+    void NeedCast(size_t place, const UnicodeString& type);
     void SetTypes(Firebird::ThrowStatusWrapper& status, Firebird::IMetadataBuilder& builder);
     void Lay(Firebird::ThrowStatusWrapper& status);
 
@@ -84,6 +90,7 @@ class InputMessage {
     bool FPlain = false;  // laid out in the statement's own format; there are no parts
     std::vector<Part> FParts;
     std::optional<fichario::Misfit> FMisfit;
+    std::vector<ParamCast> FCasts;
     Firebird::IMessageMetadata* FFormat = nullptr;
     MessageBytes FBytes;
 };

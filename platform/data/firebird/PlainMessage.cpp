@@ -45,6 +45,7 @@ bool PutNumber(const ColumnInfo& described, const InputValue& input, uint8_t* at
 bool PutMoment(const ColumnInfo& described, const InputValue& input, uint8_t* at) {
     if (input.Value().Kind() != vkDateTime || input.Type != FieldTypeOf(described)) return false;
     const TDateTime value = input.Value().ToDateTime();
+    if (!IsWireDate(value)) return false;
     switch (described.Kind) {
         case WireKind::Date: return Put(at, ToWire(DateOf(value)).Days);
         case WireKind::Time: return Put(at, ToWire(TimeOf(value)).Ticks);

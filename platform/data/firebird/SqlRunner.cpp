@@ -1,5 +1,6 @@
 #include "platform/data/firebird/SqlRunner.h"
 
+#include "platform/data/firebird/BoundStatement.h"
 #include "platform/data/firebird/Cursor.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/firebird/WideText.h"
@@ -8,23 +9,25 @@ namespace fichario {
 
 RowStore ReadRows(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
                   const ColumnList* wide, int most) {
-    StatementLease statement = attachment.Prepare(sql);
-    RowStore rows{RowLayout(wide ? WideColumns(*wide, statement->Columns()) : statement->Columns())};
-    InputMessage input(attachment, statement->Inputs(), values);
-    if (input.Misfit()) return rows;
-    Cursor(attachment.shared_from_this(), std::move(statement), attachment.Reading(), input, rows, most);
+    BoundStatement bound(attachment, attachment.Prepare(sql), values);
+    bound.Cast();
+    const ColumnList& columns = bound.Statement->Columns();
+    RowStore rows{RowLayout(wide ? WideColumns(*wide, columns) : columns)};
+    if (bound.Input->Misfit()) return rows;
+    Cursor(attachment.shared_from_this(), std::move(bound.Statement), attachment.Reading(), *bound.Input,
+           rows, most);
     return rows;
 }
 
 int64_t ExecuteSql(Attachment& attachment, const UnicodeString& sql, const std::vector<InputValue>& values,
                    RowStore* returned) {
-    StatementLease statement = attachment.Prepare(sql);
-    if (statement->IsDefinition()) attachment.Forget();
-    InputMessage input(attachment, statement->Inputs(), values);
-    if (input.Misfit()) RefuseMisfit(*input.Misfit(), {});
-    if (returned) *returned = RowStore(RowLayout(statement->Columns()));
+    BoundStatement bound(attachment, attachment.Prepare(sql), values);
+    if (bound.Statement->IsDefinition()) attachment.Forget();
+    if (bound.Input->Misfit()) RefuseMisfit(*bound.Input->Misfit(), {});
+    bound.Cast();
+    if (returned) *returned = RowStore(RowLayout(bound.Statement->Columns()));
     WriteScope write(attachment);
-    const int64_t changed = statement->Execute(*write.Get(), input, returned);
+    const int64_t changed = bound.Statement->Execute(*write.Get(), *bound.Input, returned);
     write.Commit();
     return changed;
 }

@@ -50,6 +50,7 @@ ColumnList WideColumns(const ColumnList& columns, const ColumnList& described) {
     ColumnList wide = columns;
     for (size_t i = 0; i < wide.size(); ++i) {
         wide[i].Kind = described[i].Kind;
+        wide[i].Scale = described[i].Scale;
         wide[i].Length = described[i].Length;
         wide[i].Offset = described[i].Offset;
         wide[i].NullOffset = described[i].NullOffset;

@@ -89,6 +89,7 @@ Variant ValueOf(const QString& written) {
     if (kind == "float") return text.toDouble();
     if (kind == "money") return Currency::FromDouble(text.toDouble());
     if (kind == "decimal") return Decimal::Parse(text, u'.').value();
+    if (kind == "day") return TDateTime(text.toDouble());
     if (kind == "moment") return StrToDateTime(text);
     if (kind == "time") return StrToTime(text);
     if (kind == "long") return QString(text.toInt(), u'é');

@@ -14,8 +14,8 @@
 #include "tests/platform/data/TestDatabase.h"
 #include "tests/support/TextTable.h"
 
-// "int 3", "float 1.5", "moment 31/12/2000 12:00", … as a value of that kind, "null", "all int 1;b", or the
-// text itself.
+// "int 3", "float 1.5", "moment 31/12/2000 12:00", "day 36526" since 30/12/1899, … as a value of that kind,
+// "null", "all int 1;b", or the text itself.
 Variant ValueOf(const QString& written);
 // The same set into a parameter by the setter of its kind.
 void SetParam(TFDParam& param, const QString& written);
