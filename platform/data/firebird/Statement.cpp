@@ -6,10 +6,25 @@
 #include "platform/data/firebird/InputMessage.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/firebird/RowStore.h"
+#include "platform/data/SqlLexer.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace fichario {
+
+namespace {
+
+// The server would take it for the text's end, and a DELETE without its WHERE empties the table.
+void RefuseNul(const UnicodeString& sql) {
+    if (!sql.contains(QChar(u'\0'))) return;
+    SqlLexer lexer(sql);
+    for (SqlToken token = lexer.Next(); token.Kind != SqlTokenKind::End; token = lexer.Next()) {
+        if (token.IsSymbol(u'\0'))
+            throw EDatabaseError(u"The statement has a NUL character at position %1"_s.arg(token.Start + 1));
+    }
+}
+
+}  // namespace
 
 Statement::Statement(Attachment& attachment, const UnicodeString& sql)
     : FAttachment(attachment), FSql(sql), FDefinitions(attachment.Definitions()) {
@@ -23,6 +38,7 @@ Statement::Statement(Attachment& attachment, const UnicodeString& sql)
 }
 
 void Statement::Prepare() {
+    RefuseNul(FSql);
     const std::optional<QByteArray> text = EncodeText(FAttachment.Encoding(), FSql);
     if (!text) RefuseMisfit({0, FirstForeign(FAttachment.Encoding(), FSql), 0}, {});
     const std::shared_ptr<Transaction> transaction = FAttachment.Reading();

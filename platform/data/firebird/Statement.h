@@ -22,7 +22,7 @@ class RowStore;
 class Statement {
   public:
     // Prepares in the transaction that reads happen in. EFDError; EDatabaseError for COMMIT, ROLLBACK and SET
-    // TRANSACTION.
+    // TRANSACTION, and for a NUL outside literals.
     Statement(Attachment& attachment, const UnicodeString& sql);
     ~Statement();
     Statement(const Statement&) = delete;
