@@ -90,6 +90,16 @@ Variant ReadScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& 
     }
 }
 
+// What a statement that is no SELECT gives: one that gives rows one after the other (EXECUTE BLOCK) is read.
+Variant ExecuteScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& sql,
+                      const std::vector<Variant>& values) {
+    const ScannedSql scanned = ScanParams(sql);
+    if (attachment->Prepare(scanned.Text)->HasCursor()) return ReadScalar(attachment, sql, values);
+    RowStore returned;
+    ExecuteSql(*attachment, scanned.Text, InputsFor(scanned, values), &returned);
+    return FirstValue(*attachment, returned, false);
+}
+
 }  // namespace
 
 TFDCustomConnection::TFDCustomConnection(TComponent* owner) : TComponent(owner) {}
@@ -191,5 +201,7 @@ int TFDCustomConnection::ExecSQL(const UnicodeString& sql, const std::vector<Var
 }
 
 Variant TFDCustomConnection::ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values) {
-    return Lasting(Use::Reading, [&] { return ReadScalar(RequireAttachment(), sql, values); });
+    const bool reads = SqlShape(ScanParams(sql).Text).IsSelect();
+    return Lasting(reads ? Use::Reading : Use::Writing,
+                   [&] { return (reads ? ReadScalar : ExecuteScalar)(RequireAttachment(), sql, values); });
 }

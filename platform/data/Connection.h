@@ -66,7 +66,8 @@ class TFDCustomConnection : public TComponent {
     // Executes a statement with its parameters, given in the order of their first appearance. Returns how
     // many records it changed. DDL too. EFDError.
     int ExecSQL(const UnicodeString& sql, const std::vector<Variant>& values = {});
-    // The first column of the first row; null when there is no row.
+    // The first column of the first row; null when there is no row. A statement that returns values without
+    // being a SELECT (RETURNING, EXECUTE PROCEDURE) is executed as by ExecSQL.
     Variant ExecSQLScalar(const UnicodeString& sql, const std::vector<Variant>& values = {});
 
     // The connection was found lost; it opens anew with the next use.

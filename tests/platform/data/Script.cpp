@@ -170,7 +170,9 @@ QString ScriptTest::Rows(const QStringList& fields) {
 QString ScriptTest::Answer(TFDConnection& connection, const QStringList& arguments) {
     const auto transaction = kTransactions.find(arguments[0]);
     if (transaction != kTransactions.end()) return transaction->second(connection), QString();
-    if (arguments[0].startsWith("SELECT")) return connection.ExecSQLScalar(arguments[0]).ToText();
+    const bool gives = arguments[0].startsWith("SELECT") || arguments[0].contains(" RETURNING ");
+    if (gives || arguments[0].startsWith("EXECUTE PROCEDURE"))
+        return connection.ExecSQLScalar(arguments[0]).ToText();
     std::vector<Variant> values;
     for (const QString& argument : arguments.sliced(1)) values.push_back(ValueOf(argument));
     const int changed = connection.ExecSQL(arguments[0], values);
