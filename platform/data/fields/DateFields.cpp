@@ -1,6 +1,7 @@
 #include "platform/data/fields/DateFields.h"
 
 #include <algorithm>
+#include "platform/data/firebird/WireTime.h"
 #include "platform/rtl/FormatSettings.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,6 +14,11 @@ const UnicodeString kTime = u"uma hora válida"_s;
 // A masked edit leaves its separators behind when nothing was typed.
 bool IsBlank(const UnicodeString& text) {
     return std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
+}
+
+// For what has no date to show.
+UnicodeString AsNumber(TDateTime moment) {
+    return Variant(moment.Value).ToText();
 }
 
 }  // namespace
@@ -30,6 +36,7 @@ UnicodeString TDateTimeField::FormatValue(const Variant& value, bool display) co
 
 Variant TDateTimeField::Convert(const Variant& value) const {
     const TDateTime moment = value.ToDateTime();
+    if (!fichario::IsWireDate(moment)) RefuseText(AsNumber(moment), DataType() == ftTime ? kTime : kDate);
     return DataType() == ftTime ? TimeOf(moment) : DateOf(moment);
 }
 
@@ -58,7 +65,9 @@ UnicodeString TSQLTimeStampField::FormatValue(const Variant& value, bool display
 }
 
 Variant TSQLTimeStampField::Convert(const Variant& value) const {
-    return value.ToDateTime();
+    const TDateTime moment = value.ToDateTime();
+    if (!fichario::IsWireDate(moment)) RefuseText(AsNumber(moment), kDate);
+    return moment;
 }
 
 Variant TSQLTimeStampField::ConvertText(const UnicodeString& text) const {

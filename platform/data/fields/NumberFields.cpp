@@ -1,5 +1,6 @@
 #include "platform/data/fields/NumberFields.h"
 
+#include <cmath>
 #include <limits>
 #include "platform/rtl/Exceptions.h"
 #include "platform/rtl/FormatSettings.h"
@@ -51,8 +52,17 @@ UnicodeString TNumericField::ByMask(const UnicodeString& mask, const Variant& va
 
 // ---- whole numbers ----
 
+// Beyond 64 bits there is no whole number.
+int64_t TNumericField::WholeOf(const Variant& value) const {
+    try {
+        return value.ToInt64();
+    } catch (const EConvertError&) {
+        RefuseText(value.ToText(), kWholeNumber);
+    }
+}
+
 Variant TIntegerField::Convert(const Variant& value) const {
-    const int64_t number = value.ToInt64();
+    const int64_t number = WholeOf(value);
     const bool small = DataType() == ftSmallint;
     const int64_t limit = small ? std::numeric_limits<int16_t>::max() : std::numeric_limits<int32_t>::max();
     if (number > limit || number < -limit - 1) RefuseText(value.ToText(), kWholeNumber);
@@ -67,7 +77,7 @@ Variant TIntegerField::ConvertText(const UnicodeString& text) const {
 }
 
 Variant TLargeintField::Convert(const Variant& value) const {
-    return value.ToInt64();
+    return WholeOf(value);
 }
 
 Variant TLargeintField::ConvertText(const UnicodeString& text) const {
@@ -79,30 +89,40 @@ Variant TLargeintField::ConvertText(const UnicodeString& text) const {
 
 // ---- numbers with decimals ----
 
+// Whether the column can hold it. Largest() has 15 digits.
+bool TNumericField::Fits(double number) const {
+    constexpr double kRounding = 1 + 1e-14;
+    return std::isfinite(number) && (Largest() <= 0 || std::fabs(number) <= Largest() * kRounding);
+}
+
 Variant TFloatField::Convert(const Variant& value) const {
-    return value.ToDouble();
+    const double number = value.ToDouble();
+    if (!Fits(number)) RefuseText(value.ToText(), kNumber);
+    return number;
 }
 
 Variant TFloatField::ConvertText(const UnicodeString& text) const {
     if (text.trimmed().isEmpty()) return Variant::Null();
     double number;
-    if (!TryStrToFloat(WithoutThousands(text), number)) RefuseText(text, kNumber);
+    if (!TryStrToFloat(WithoutThousands(text), number) || !Fits(number)) RefuseText(text, kNumber);
     return number;
 }
 
 Variant TBCDField::Convert(const Variant& value) const {
-    return value.ToDecimal().Rescale(Size());
+    std::optional<Decimal> number;
+    try {
+        number = value.ToDecimal().Rescale(Size());
+    } catch (const EConvertError&) {
+    }
+    if (!number || !Fits(number->ToDouble())) RefuseText(value.ToText(), kNumber);
+    return *number;
 }
 
 Variant TBCDField::ConvertText(const UnicodeString& text) const {
     if (text.trimmed().isEmpty()) return Variant::Null();
     const auto number = Decimal::Parse(WithoutThousands(text), FormatSettings.DecimalSeparator);
     if (!number) RefuseText(text, kNumber);
-    try {
-        return number->Rescale(Size());
-    } catch (const EConvertError&) {
-        RefuseText(text, kNumber);
-    }
+    return Convert(*number);
 }
 
 UnicodeString TBCDField::ByMask(const UnicodeString& mask, const Variant& value) const {

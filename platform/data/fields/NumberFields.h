@@ -4,8 +4,9 @@
 #pragma once
 #include "platform/data/fields/BaseField.h"
 
-// What all numbers share: formats. A format is a mask of FormatFloat with up to three sections; without one
-// the number shows as it is, with FormatSettings' decimal separator.
+// What all numbers share: what the column cannot hold is an EConvertError, and formats. A format is a mask of
+// FormatFloat with up to three sections; without one the number shows as it is, with FormatSettings' decimal
+// separator.
 class TNumericField : public TField {
   public:
     UnicodeString DisplayFormat() const { return FDisplayFormat; }
@@ -21,12 +22,16 @@ class TNumericField : public TField {
     UnicodeString FormatValue(const Variant& value, bool display) const override;
     // The number by the mask.
     virtual UnicodeString ByMask(const UnicodeString& mask, const Variant& value) const;
+    // The nearest whole number. EConvertError.
+    int64_t WholeOf(const Variant& value) const;
+    // Whether it is a number that the column can hold.
+    bool Fits(double number) const;
 
   private:
     UnicodeString FDisplayFormat, FEditFormat;
 };
 
-// Whole numbers of 16 (ftSmallint) and 32 bits (ftInteger). A value out of range is an EConvertError.
+// Whole numbers of 16 (ftSmallint) and 32 bits (ftInteger).
 class TIntegerField : public TNumericField {
   public:
     explicit TIntegerField(TComponent* owner, TFieldType type = ftInteger) : TNumericField(owner, type) {}
