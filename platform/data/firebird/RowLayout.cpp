@@ -1,6 +1,7 @@
 #include "platform/data/firebird/RowLayout.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 #include "platform/data/Errors.h"
 #include "platform/data/firebird/CharacterSets.h"
@@ -51,12 +52,21 @@ Variant Number(int64_t value, int scale) {
     return scale > 0 ? Variant(Decimal{value, scale}) : Variant(value);
 }
 
+// The number that its shortest text means: 0.1, not the nearest of 24 bits, which is 0.100000001490116.
+double FromFloat(float value) {
+    char text[32];
+    const char* end = std::to_chars(text, text + sizeof text, value).ptr;
+    double number = value;
+    std::from_chars(text, end, number);
+    return number;
+}
+
 Variant FixedValue(WireKind kind, int scale, const uint8_t* at) {
     switch (kind) {
         case WireKind::Short: return Number(Read<int16_t>(at), scale);
         case WireKind::Long: return Number(Read<int32_t>(at), scale);
         case WireKind::Int64: return Number(Read<int64_t>(at), scale);
-        case WireKind::Float: return static_cast<double>(Read<float>(at));
+        case WireKind::Float: return FromFloat(Read<float>(at));
         case WireKind::Double: return Read<double>(at);
         case WireKind::Date: return FromWire(WireStamp{Read<int32_t>(at), 0});
         case WireKind::Time: return TimeFromWire(Read<uint32_t>(at));
