@@ -216,8 +216,8 @@ void TDataSet::KeepBlob(int column) {
 // change, and one that was stored is known again.
 void TDataSet::StoreColumn(TField* field, Variant&& value) {
     if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
-    if (value.Kind() == vkFloat && FRows->Layout().IsSingle(field->FColumn))
-        value = double{static_cast<float>(value.ToDouble())};
+    if (value.Kind() == vkFloat && FRows->Layout().IsFloat(field->FColumn))
+        value = fichario::FromFloat(static_cast<float>(value.ToDouble()));
     if (FState == dsEdit) KeepBlob(field->FColumn);
     FEdits->Set(field->FColumn, std::move(value));
     if (field->OnChange) field->OnChange(field);

@@ -52,15 +52,6 @@ Variant Number(int64_t value, int scale) {
     return scale > 0 ? Variant(Decimal{value, scale}) : Variant(value);
 }
 
-// The number that its shortest text means: 0.1, not the nearest of 24 bits, which is 0.100000001490116.
-double FromFloat(float value) {
-    char text[32];
-    const char* end = std::to_chars(text, text + sizeof text, value).ptr;
-    double number = value;
-    std::from_chars(text, end, number);
-    return number;
-}
-
 Variant FixedValue(WireKind kind, int scale, const uint8_t* at) {
     switch (kind) {
         case WireKind::Short: return Number(Read<int16_t>(at), scale);
@@ -104,6 +95,14 @@ void PutFixed(WireKind kind, int scale, const Variant& value, uint8_t* at) {
 }
 
 }  // namespace
+
+double FromFloat(float value) {
+    char text[32];
+    const char* end = std::to_chars(text, text + sizeof text, value).ptr;
+    double number = value;
+    std::from_chars(text, end, number);
+    return number;
+}
 
 RowLayout::Place RowLayout::PlaceOf(const ColumnInfo& column) {
     Place place{};

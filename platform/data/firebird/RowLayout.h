@@ -11,6 +11,9 @@
 
 namespace fichario {
 
+// The number that a FLOAT's shortest text means: 0.1, not the nearest of 24 bits, which is 0.100000001490116.
+double FromFloat(float value);
+
 class RowLayout {
   public:
     RowLayout() = default;
@@ -55,8 +58,7 @@ class RowLayout {
     TextEncoding Encoding(int column) const { return FPlaces[static_cast<size_t>(column)].Encoding; }
     TFieldType Type(int column) const { return FPlaces[static_cast<size_t>(column)].Type; }
     bool IsText(int column) const { return FPlaces[static_cast<size_t>(column)].IsText(); }
-    // A number with 24 binary digits.
-    bool IsSingle(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Float; }
+    bool IsFloat(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Float; }
     bool IsBlob(int column) const { return FPlaces[static_cast<size_t>(column)].Kind == WireKind::Blob; }
 
   private:
