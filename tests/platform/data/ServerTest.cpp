@@ -11,7 +11,7 @@ class Mortal : public ScriptTest {
   protected:
     void SetUp() override {
         if (!OnServer()) GTEST_SKIP() << "needs a server";
-        Server("start");
+        Server("lend");
         FRoot = new TComponent(nullptr);
         FConnection = new TFDConnection(FRoot);
         TStrings& params = *FConnection->Params();
