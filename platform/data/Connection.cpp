@@ -72,7 +72,10 @@ Variant FirstValue(Attachment& attachment, const RowStore& rows, bool wide) {
     const TFieldType type = rows.Layout().Type(0);
     if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
     const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), value.ToInt64(), wide);
-    return type == ftBlob ? Variant(bytes) : Variant(DecodeText(rows.Layout().Encoding(0), bytes));
+    if (type == ftBlob) return bytes;
+    const std::optional<UnicodeString> text = DecodeExact(rows.Layout().Encoding(0), bytes);
+    if (!text) throw EUnreadableText();
+    return *text;
 }
 
 // A stored character that the connection's set lacks fails its whole row: then it is read as UTF-8.

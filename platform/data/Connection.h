@@ -40,7 +40,8 @@ class TFDCustomConnection : public TComponent {
     //   ConnectTimeout seconds that connecting to a server may take; 10 at first
     //   StatementTimeout  seconds that one call of a statement (its execution, the fetch of a batch of
     //                  rows), or a commit, may take before it is broken off; 600 at first, 0: any time
-    //   CharacterSet   ISO8859_1 (at first; the bytes are taken as Windows-1252), UTF8, WIN1252 or NONE
+    //   CharacterSet   ISO8859_1 (at first; the bytes are taken as Windows-1252), UTF8, WIN1252 or NONE, or
+    //                  another name that the server has for one of them; the rest is refused
     //   PageSize       of a database that CreateDatabase makes: 4096, 8192 or 16384
     //   ForcedWrites   False: a database that CreateDatabase makes leaves writing to the system's cache
     TStrings* Params() { return &FParams; }

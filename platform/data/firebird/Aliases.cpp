@@ -42,8 +42,7 @@ size_t NumberIn(QByteArrayView content) {
 
 }  // namespace
 
-void ReadAliases(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& statement, TextEncoding encoding,
-                 ColumnList& columns) {
+void ReadAliases(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& statement, ColumnList& columns) {
     std::vector<unsigned char> bytes(kAnswerBytes);
     statement.getInfo(&status, sizeof kQuestion, kQuestion, static_cast<unsigned>(bytes.size()),
                       bytes.data());
@@ -54,7 +53,7 @@ void ReadAliases(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& sta
         const QByteArrayView content = answer.Content();
         if (tag == isc_info_sql_sqlda_seq) column = NumberIn(content);
         if (tag == isc_info_sql_relation_alias && column >= 1 && column <= columns.size()) {
-            columns[column - 1].BaseAlias = DecodeText(encoding, content).trimmed();
+            columns[column - 1].BaseAlias = DecodeName(content).trimmed();
         }
     }
 }

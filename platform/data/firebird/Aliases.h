@@ -11,7 +11,6 @@ class ThrowStatusWrapper;
 namespace fichario {
 
 // Fills BaseAlias; columns for which the answer has no room keep it empty.
-void ReadAliases(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& statement, TextEncoding encoding,
-                 ColumnList& columns);
+void ReadAliases(Firebird::ThrowStatusWrapper& status, Firebird::IStatement& statement, ColumnList& columns);
 
 }  // namespace fichario

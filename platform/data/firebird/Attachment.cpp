@@ -82,10 +82,17 @@ UnicodeString AddressOf(const AttachSettings& settings, Deadline end) {
     if (settings.Local) return {};
     const UnicodeString server = WithPort(settings.Server);
     UnicodeString address;
-    ClientCall(CallKind::Attach, TextEncoding::Windows1252,
+    ClientCall(CallKind::Attach,
                [&](Firebird::ThrowStatusWrapper&) { address = AddressThatAnswers(server, end); });
     if (address.isEmpty()) throw ErrorOfCodes({isc_network_error, isc_net_connect_err});
     return address;
+}
+
+unsigned KnownSet(const AttachSettings& settings) {
+    if (const std::optional<unsigned> set = CharacterSetNumber(settings.CharacterSet)) return *set;
+    throw EDatabaseError(
+        u"O conjunto de caracteres \"%1\" não é atendido. Use ISO8859_1, WIN1252, UTF8 ou NONE."_s.arg(
+            settings.CharacterSet));
 }
 
 // EFDError.
@@ -98,7 +105,7 @@ Firebird::IAttachment* HandleOf(const AttachSettings& settings, bool create) {
         ClientLibrary().getDispatcher(), [](Firebird::IProvider* dispatcher) { dispatcher->release(); });
     Firebird::IAttachment* handle = nullptr;
     const SignalKeeper signals;
-    ClientCall(CallKind::Attach, EncodingOfName(settings.CharacterSet),
+    ClientCall(CallKind::Attach,
                [&](Firebird::ThrowStatusWrapper& status) {
                    AttachOptions options(status);
                    Fill(options, settings);
@@ -121,10 +128,11 @@ void KeepFromOtherPrograms() {
 }  // namespace
 
 std::shared_ptr<Attachment> Attachment::Reach(const AttachSettings& settings, bool create) {
+    const unsigned set = KnownSet(settings);
     try {
         Firebird::IAttachment* handle = HandleOf(settings, create);
         KeepFromOtherPrograms();
-        return std::shared_ptr<Attachment>(new Attachment(handle, settings));
+        return std::shared_ptr<Attachment>(new Attachment(handle, settings, set));
     } catch (const EFDError& error) {
         throw AttachErrorOf(error, settings, create);
     }
@@ -138,12 +146,12 @@ std::shared_ptr<Attachment> Attachment::Create(const AttachSettings& settings) {
     return Reach(settings, true);
 }
 
-Attachment::Attachment(Firebird::IAttachment* handle, const AttachSettings& settings)
+Attachment::Attachment(Firebird::IAttachment* handle, const AttachSettings& settings, unsigned set)
     : FHandle(handle),
       FStatementTimeout(settings.StatementTimeout),
       FLocal(settings.Local),
-      FEncoding(EncodingOfName(settings.CharacterSet)),
-      FCharacterSet(CharacterSetNumber(settings.CharacterSet)) {}
+      FEncoding(EncodingOf(set)),
+      FCharacterSet(set) {}
 
 Attachment::~Attachment() {
     FIdle.clear();
@@ -164,7 +172,7 @@ bool Attachment::End(CallKind kind, ClientBody body) noexcept {
 
 void Attachment::Call(CallKind kind, ClientBody body) {
     try {
-        ClientCall(kind, FEncoding, body, {FHandle, std::chrono::seconds(FStatementTimeout), FLocal});
+        ClientCall(kind, body, {FHandle, std::chrono::seconds(FStatementTimeout), FLocal});
     } catch (const EFDError& error) {
         if (FUsable && !error.ConnectionUsable) FLostIn = kind;
         FUsable = FUsable && error.ConnectionUsable;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 #include "platform/data/firebird/ClientCall.h"
+#include "platform/data/firebird/TextEncoding.h"
 
 namespace Firebird {
 class IAttachment;
@@ -24,7 +25,7 @@ struct AttachSettings {
     UnicodeString Server;    // host or host/port; only used when not Local
     UnicodeString Database;  // path or alias
     UnicodeString User, Password, Role;
-    UnicodeString CharacterSet;  // a name the server knows
+    UnicodeString CharacterSet;  // a name that CharacterSetNumber knows
     bool Local = false;          // the engine inside this process
     int ConnectTimeout = 10;     // seconds that connecting to a server may take
     int StatementTimeout = 600;  // seconds that one call of a statement, or a commit, may take; 0: any time
@@ -45,7 +46,7 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
 
     Firebird::IAttachment* Handle() const { return FHandle; }
     TextEncoding Encoding() const { return FEncoding; }
-    // The connection's character set as the server numbers it; 0 when not one of those known here.
+    // The connection's character set as the server numbers it.
     unsigned CharacterSet() const { return FCharacterSet; }
     // False once a call found the connection lost.
     bool Usable() const { return FUsable; }
@@ -76,7 +77,7 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
 
   private:
     friend class StatementLease;  // gives its statement back
-    Attachment(Firebird::IAttachment* handle, const AttachSettings& settings);
+    Attachment(Firebird::IAttachment* handle, const AttachSettings& settings, unsigned set);
     static std::shared_ptr<Attachment> Reach(const AttachSettings& settings, bool create);
     void GiveBack(std::unique_ptr<Statement> statement);
 

@@ -11,9 +11,9 @@ struct NamedSet {
     QStringView Name;
     unsigned Number;
 };
-constexpr NamedSet kSets[] = {{u"UTF8", kUtf8Set},     {u"ISO8859_1", kLatin1Set}, {u"LATIN1", kLatin1Set},
-                              {u"ANSI", kLatin1Set},   {u"WIN1252", kWin1252Set},  {u"ASCII", kAsciiSet},
-                              {u"US_ASCII", kAsciiSet}};
+constexpr NamedSet kSets[] = {{u"ISO8859_1", kLatin1Set}, {u"ISO88591", kLatin1Set},  {u"LATIN1", kLatin1Set},
+                              {u"ANSI", kLatin1Set},      {u"UTF8", kUtf8Set},        {u"UTF-8", kUtf8Set},
+                              {u"WIN1252", kWin1252Set},  {u"WIN_1252", kWin1252Set}, {u"NONE", kNoSet}};
 
 bool IsControl(char32_t c) {
     return c >= 0x80 && c < 0xA0;
@@ -55,17 +55,29 @@ bool IsPlain(QStringView text) {
 
 }  // namespace
 
-unsigned CharacterSetNumber(QStringView name) {
+std::optional<unsigned> CharacterSetNumber(QStringView name) {
     for (const NamedSet& set : kSets) {
         if (name.compare(set.Name, Qt::CaseInsensitive) == 0) return set.Number;
     }
-    return kNoSet;
+    return std::nullopt;
+}
+
+TextEncoding EncodingOf(unsigned set) {
+    return BytesOfCharacter(set) > 1 ? TextEncoding::Utf8 : TextEncoding::Windows1252;
+}
+
+unsigned BytesOfCharacter(unsigned set) {
+    switch (set) {
+        case kUtf8Set: return 4;
+        case kUnicodeFssSet: return 3;
+        default: return 1;
+    }
 }
 
 UnicodeString FirstLost(unsigned connection, unsigned column, QStringView text) {
-    if (connection == column || Untouched(column)) return {};
-    if (Untouched(connection) && column != kAsciiSet) return {};
-    if (IsPlain(text)) return {};
+    const bool asItIs = connection == column || Untouched(connection);
+    const bool everyByte = column != kAsciiSet && column != kWin1252Set;
+    if (Untouched(column) || (asItIs && everyByte) || IsPlain(text)) return {};
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         const char32_t c = pair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();

@@ -129,22 +129,22 @@ void Wait(ClientBody body, Firebird::ThrowStatusWrapper& status, CallWatch& watc
 }
 
 // With the status of the one call that may be running.
-void RunShort(TextEncoding encoding, ClientBody body) {
+void RunShort(ClientBody body) {
     static CallStatus status;
     try {
         body(status.Get());
     } catch (const Firebird::FbException& error) {
-        throw ErrorOf(*error.getStatus(), encoding);
+        throw ErrorOf(*error.getStatus());
     }
 }
 
-void RunWatched(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit) {
+void RunWatched(CallKind kind, ClientBody body, const CallLimit& limit) {
     CallStatus status;
     CallWatch watch(kind, limit);
     try {
         Wait(body, status.Get(), watch);
     } catch (const Firebird::FbException& error) {
-        throw watch.Judged(ErrorOf(*error.getStatus(), encoding));
+        throw watch.Judged(ErrorOf(*error.getStatus()));
     } catch (const Stopped&) {
         throw watch.Judged(ErrorOfCodes({isc_cancelled}));
     }
@@ -164,19 +164,19 @@ void StopIfAsked() {
     if (g_stop.load(std::memory_order_relaxed)) throw Stopped();
 }
 
-void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit) {
+void ClientCall(CallKind kind, ClientBody body, const CallLimit& limit) {
     if (Hook()) Hook()(kind);
     if (g_running) Abort();
     const auto free = qScopeGuard([] { g_running = false; });
     g_running = true;
     g_stop.store(false, std::memory_order_relaxed);
-    if (limit.Local && IsShort(kind)) return RunShort(encoding, body);
-    RunWatched(kind, encoding, body, limit);
+    if (limit.Local && IsShort(kind)) return RunShort(body);
+    RunWatched(kind, body, limit);
 }
 
 bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit) noexcept {
     try {
-        ClientCall(kind, TextEncoding::Windows1252, body, limit);
+        ClientCall(kind, body, limit);
         return true;
     } catch (...) {
         return false;

@@ -1,7 +1,7 @@
 // The one function through which every client call goes that can block: look-up, attach, prepare, execute
 // with first fetch, fetch of a batch, commit, blob segments, the endings.
 //
-//     ClientCall(CallKind::Fetch, encoding, [&](Firebird::ThrowStatusWrapper& status) {
+//     ClientCall(CallKind::Fetch, [&](Firebird::ThrowStatusWrapper& status) {
 //         while (rows-- > 0 && cursor->fetchNext(&status, buffer) == Firebird::IStatus::RESULT_OK) {
 //             store.Append(buffer);
 //             StopIfAsked();
@@ -13,7 +13,6 @@
 #include <chrono>
 #include <functional>
 #include "platform/data/Errors.h"
-#include "platform/data/firebird/TextEncoding.h"
 #include "platform/rtl/FunctionRef.h"
 
 namespace Firebird {
@@ -39,10 +38,10 @@ struct CallLimit {
 };
 
 // Runs `body` with a status of its own on the service thread, and waits for it as the screen does; what is
-// short on an engine in this process runs at once. `encoding` is that of the server's texts. Escape breaks
-// off a statement, the limit also a commit; a server that does not even answer to that loses the connection.
-// A call out of such a wait, which only painting can make, is refused by a silent abort. EFDError.
-void ClientCall(CallKind kind, TextEncoding encoding, ClientBody body, const CallLimit& limit = {});
+// short on an engine in this process runs at once. Escape breaks off a statement, the limit also a commit; a
+// server that does not even answer to that loses the connection. A call out of such a wait, which only
+// painting can make, is refused by a silent abort. EFDError.
+void ClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {});
 
 // The same for endings: true when `body` ran without an error; nothing is thrown.
 bool QuietClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {}) noexcept;

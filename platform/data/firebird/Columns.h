@@ -48,6 +48,11 @@ struct ColumnInfo {
 
 using ColumnList = std::vector<ColumnInfo>;
 
+// Other values that come or go as texts are in the connection's set.
+inline bool HasCharacterSet(const ColumnInfo& column) {
+    return IsText(column.Kind) || (column.Kind == WireKind::Blob && column.SubType == 1);
+}
+
 // The kind of field for a column.
 TFieldType FieldTypeOf(const ColumnInfo& column);
 

@@ -9,7 +9,6 @@ namespace fichario {
 
 namespace {
 
-constexpr unsigned kUnicodeFss = 3;
 constexpr unsigned kSetBits = 0xFF;  // the collation stands above them
 
 WireKind KindOf(unsigned type) {
@@ -32,18 +31,11 @@ WireKind KindOf(unsigned type) {
     }
 }
 
-// A column without a character set of its own comes as its bytes are, taken as Windows-1252.
-void DescribeText(ColumnInfo& column) {
-    const unsigned bytes = column.CharacterSet == kUtf8Set ? 4 : column.CharacterSet == kUnicodeFss ? 3 : 1;
-    column.Encoding = bytes > 1 ? TextEncoding::Utf8 : TextEncoding::Windows1252;
-    column.Characters = static_cast<int>(column.Length / bytes);
-}
-
 }  // namespace
 
 ColumnList ColumnsOf(Firebird::ThrowStatusWrapper& status, Firebird::IMessageMetadata& format,
                      const Attachment& attachment) {
-    const auto text = [&](const char* bytes) { return DecodeText(attachment.Encoding(), bytes).trimmed(); };
+    const auto text = [&](const char* bytes) { return DecodeName(bytes).trimmed(); };
     ColumnList columns(format.getCount(&status));
     for (unsigned i = 0; i < columns.size(); ++i) {
         ColumnInfo& column = columns[i];
@@ -57,9 +49,10 @@ ColumnList ColumnsOf(Firebird::ThrowStatusWrapper& status, Firebird::IMessageMet
         column.Length = format.getLength(&status, i);
         column.Offset = format.getOffset(&status, i);
         column.NullOffset = format.getNullOffset(&status, i);
-        column.Encoding = attachment.Encoding();
         column.CharacterSet = format.getCharSet(&status, i) & kSetBits;
-        if (IsText(column.Kind)) DescribeText(column);
+        column.Encoding = HasCharacterSet(column) ? EncodingOf(column.CharacterSet) : attachment.Encoding();
+        if (IsText(column.Kind))
+            column.Characters = static_cast<int>(column.Length / BytesOfCharacter(column.CharacterSet));
     }
     return columns;
 }

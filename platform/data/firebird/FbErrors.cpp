@@ -1,8 +1,11 @@
 #include "platform/data/firebird/FbErrors.h"
 
 #include <algorithm>
+#include <QList>
 #include <QRegularExpression>
 #include "platform/data/firebird/FbApi.h"
+#include "platform/data/firebird/TextEncoding.h"
+#include "platform/data/Sql.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,13 +72,13 @@ constexpr Sentence kSentences[] = {
     {isc_no_priv, u"Você não tem permissão para esta operação."},
 };
 
-std::vector<ErrorItem> ItemsOf(const intptr_t* vector, TextEncoding encoding) {
+std::vector<ErrorItem> ItemsOf(const intptr_t* vector) {
     std::vector<ErrorItem> items;
     while (*vector != isc_arg_end) {
         const intptr_t kind = vector[0];
         if (kind == isc_arg_gds) items.push_back({static_cast<int64_t>(vector[1]), {}});
         if (kind == isc_arg_string && !items.empty()) {
-            items.back().Texts.push_back(DecodeText(encoding, reinterpret_cast<const char*>(vector[1])));
+            items.back().Texts.push_back(DecodeName(reinterpret_cast<const char*>(vector[1])));
         }
         vector += kind == isc_arg_cstring ? 3 : 2;
     }
@@ -145,11 +148,13 @@ bool IsLost(const std::vector<ErrorItem>& items) {
     });
 }
 
-UnicodeString ServerTextOf(Firebird::IStatus& status, TextEncoding encoding) {
+UnicodeString ServerTextOf(Firebird::IStatus& status) {
     char buffer[4096];
     const unsigned length =
         Firebird::fb_get_master_interface()->getUtilInterface()->formatStatus(buffer, sizeof buffer, &status);
-    return DecodeText(encoding, QByteArrayView(buffer, length));
+    TStringArray lines;
+    for (const QByteArray& line : QByteArray(buffer, length).split('\n')) lines.push_back(DecodeName(line));
+    return Joined(lines, u"\n"_s);
 }
 
 EFDError Assemble(const std::vector<ErrorItem>& items, const UnicodeString& serverText) {
@@ -168,8 +173,8 @@ EFDError Assemble(const std::vector<ErrorItem>& items, const UnicodeString& serv
 
 }  // namespace
 
-EFDError ErrorOf(Firebird::IStatus& status, TextEncoding encoding) {
-    EFDError error = Assemble(ItemsOf(status.getErrors(), encoding), ServerTextOf(status, encoding));
+EFDError ErrorOf(Firebird::IStatus& status) {
+    EFDError error = Assemble(ItemsOf(status.getErrors()), ServerTextOf(status));
     char state[6] = {};
     fb_sqlstate(state, status.getErrors());
     error.SqlState = UnicodeString::fromLatin1(state);

@@ -75,11 +75,10 @@ InputMessage::~InputMessage() {
 
 InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& described,
                                           const UnicodeString& text) {
-    const TextEncoding encoding = IsText(described.Kind) ? described.Encoding : FAttachment.Encoding();
-    const std::optional<QByteArray> bytes = EncodeText(encoding, text);
+    const std::optional<QByteArray> bytes = EncodeText(described.Encoding, text);
     const bool blob = described.Kind == WireKind::Blob;
     if (!bytes) {
-        FMisfit = fichario::Misfit{place, FirstForeign(encoding, text), 0};
+        FMisfit = fichario::Misfit{place, FirstForeign(described.Encoding, text), 0};
     } else if (IsTooLong(described, text, *bytes)) {
         FMisfit = fichario::Misfit{place, {}, LimitOf(described)};
         if (IsText(described.Kind)) NeedCast(place, CastOfText(described, CharactersIn(text)));
@@ -89,7 +88,7 @@ InputMessage::Part InputMessage::TextPart(size_t place, const ColumnInfo& descri
         return Part::OfBlob(*bytes);
     } else {
         Part part = Part::Of(SQL_VARYING, Counted(*bytes));
-        part.Foreign = !IsText(described.Kind);
+        part.Foreign = !HasCharacterSet(described);
         return part;
     }
     return {};

@@ -70,7 +70,7 @@ class InputMessage {
         QByteArray Bytes;
         bool Null = true;
         bool Blob = false;     // Bytes go into a blob whose identity is sent
-        bool Foreign = false;  // a text for a place that is described as something else
+        bool Foreign = false;  // a text for a place that has no character set
 
         static Part Of(unsigned type, const QByteArray& bytes) {
             return {type, 0, bytes, false, false, false};

@@ -1,6 +1,7 @@
 #include "platform/data/firebird/Statement.h"
 
 #include "platform/data/firebird/Aliases.h"
+#include "platform/data/firebird/CharacterSets.h"
 #include "platform/data/firebird/Describe.h"
 #include "platform/data/firebird/FbApi.h"
 #include "platform/data/firebird/InputMessage.h"
@@ -24,6 +25,22 @@ void RefuseNul(const UnicodeString& sql) {
     }
 }
 
+// From a connection without a set the server takes names as UTF-8, and literals as the bytes that they are.
+std::optional<QByteArray> EncodeSql(const Attachment& attachment, QStringView sql) {
+    if (attachment.CharacterSet() != kNoSet) return EncodeText(attachment.Encoding(), sql);
+    QByteArray bytes;
+    qsizetype done = 0;
+    SqlLexer lexer(sql);
+    for (SqlToken token = lexer.Next(); token.Kind != SqlTokenKind::End; token = lexer.Next()) {
+        if (token.Kind != SqlTokenKind::Literal) continue;
+        const std::optional<QByteArray> literal = EncodeText(attachment.Encoding(), token.Text);
+        if (!literal) return std::nullopt;
+        bytes += sql.sliced(done, token.Start - done).toUtf8() + *literal;
+        done = token.End();
+    }
+    return bytes + sql.sliced(done).toUtf8();
+}
+
 }  // namespace
 
 Statement::Statement(Attachment& attachment, const UnicodeString& sql)
@@ -39,7 +56,7 @@ Statement::Statement(Attachment& attachment, const UnicodeString& sql)
 
 void Statement::Prepare() {
     RefuseNul(FSql);
-    const std::optional<QByteArray> text = EncodeText(FAttachment.Encoding(), FSql);
+    const std::optional<QByteArray> text = EncodeSql(FAttachment, FSql);
     if (!text) RefuseMisfit({0, FirstForeign(FAttachment.Encoding(), FSql), 0}, {});
     const std::shared_ptr<Transaction> transaction = FAttachment.Reading();
     FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
@@ -79,9 +96,8 @@ bool Statement::IsDefinition() const {
 void Statement::DescribeAliases() {
     if (FAliases) return;
     FAliases = true;
-    FAttachment.Call(CallKind::Prepare, [&](Firebird::ThrowStatusWrapper& status) {
-        ReadAliases(status, *FHandle, FAttachment.Encoding(), FColumns);
-    });
+    FAttachment.Call(CallKind::Prepare,
+                     [&](Firebird::ThrowStatusWrapper& status) { ReadAliases(status, *FHandle, FColumns); });
 }
 
 int64_t Statement::Execute(Transaction& transaction, InputMessage& input, RowStore* returned, CallKind kind) {

@@ -5,11 +5,6 @@
 
 namespace fichario {
 
-TextEncoding EncodingOfName(QStringView characterSet) {
-    return characterSet.compare(u"UTF8", Qt::CaseInsensitive) == 0 ? TextEncoding::Utf8
-                                                                   : TextEncoding::Windows1252;
-}
-
 std::optional<QByteArray> EncodeText(TextEncoding encoding, QStringView text) {
     if (encoding == TextEncoding::Windows1252) return ToAnsiExact(text);
     if (!text.isValidUtf16()) return std::nullopt;
@@ -39,6 +34,10 @@ UnicodeString DecodeText(TextEncoding encoding, QByteArrayView bytes) {
         case TextEncoding::Utf8Signs: return WithSigns(UnicodeString::fromUtf8(bytes));
         default: return FromAnsi(bytes);
     }
+}
+
+UnicodeString DecodeName(QByteArrayView bytes) {
+    return bytes.isValidUtf8() ? UnicodeString::fromUtf8(bytes) : FromAnsi(bytes);
 }
 
 // Only a text in which the replacement character appears needs a second look: it may be a stored one.

@@ -11,17 +11,19 @@ namespace fichario {
 // 9F. Brought into UTF-8 by the server those signs are controls: Utf8Signs reads them as signs again.
 enum class TextEncoding : uint8_t { Windows1252, Utf8, Utf8Signs };
 
-// The encoding for a CharacterSet parameter's value, any case; Windows-1252 for names it does not know.
-TextEncoding EncodingOfName(QStringView characterSet);
-
 // The bytes, or nothing when the set lacks a character or the text is no valid UTF-16.
 std::optional<QByteArray> EncodeText(TextEncoding encoding, QStringView text);
 
 // The text, or nothing when the bytes are no valid UTF-8; every byte is a character of Windows-1252.
 std::optional<UnicodeString> DecodeExact(TextEncoding encoding, QByteArrayView bytes);
 
-// The text; never fails: what is no character becomes U+FFFD. For messages.
+// The text; never fails: what is no character becomes U+FFFD.
 UnicodeString DecodeText(TextEncoding encoding, QByteArrayView bytes);
+
+// A name or a part of a message. The server brings into the connection's set what it keeps as UTF-8; over one
+// without a set that stays UTF-8, and a text raised by a trigger comes in the bytes that its author's
+// connection had.
+UnicodeString DecodeName(QByteArrayView bytes);
 
 // The first character that the set cannot hold, whole even outside the basic plane; empty when all can.
 UnicodeString FirstForeign(TextEncoding encoding, QStringView text);

@@ -13,13 +13,8 @@ constexpr int kBytesOfCharacter = 4;
 constexpr int kMostCharacters = kLongestVarying / kBytesOfCharacter;
 
 bool IsWidened(const ColumnInfo& column) {
-    if (column.CharacterSet == kNoSet || column.CharacterSet == kOctetsSet) return false;
-    switch (column.Kind) {
-        case WireKind::Text:
-        case WireKind::Varying: return true;
-        case WireKind::Blob: return column.SubType == 1;
-        default: return false;
-    }
+    const bool untouched = column.CharacterSet == kNoSet || column.CharacterSet == kOctetsSet;
+    return HasCharacterSet(column) && !untouched;
 }
 
 UnicodeString Utf8Of(const ColumnInfo& column, const UnicodeString& name) {

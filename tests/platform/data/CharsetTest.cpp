@@ -1,4 +1,5 @@
 // Texts between connections and columns of different character sets.
+#include <map>
 #include "tests/platform/data/Script.h"
 
 namespace {
@@ -11,20 +12,21 @@ class Charset : public ScriptTest {
             u"CREATE TABLE LETRAS (ID INTEGER NOT NULL PRIMARY KEY, "
             u"L VARCHAR(20) CHARACTER SET ISO8859_1, W VARCHAR(20) CHARACTER SET WIN1252, "
             u"U VARCHAR(20) CHARACTER SET UTF8 COLLATE UNICODE_CI_AI, N VARCHAR(20) CHARACTER SET NONE, "
-            u"A VARCHAR(20) CHARACTER SET ASCII, M BLOB SUB_TYPE TEXT CHARACTER SET ISO8859_1)"_s);
+            u"A VARCHAR(20) CHARACTER SET ASCII, M BLOB SUB_TYPE TEXT CHARACTER SET ISO8859_1, "
+            u"B BLOB SUB_TYPE TEXT CHARACTER SET NONE, T BLOB SUB_TYPE TEXT CHARACTER SET UTF8)"_s);
         Exec(u"INSERT INTO LETRAS (ID) VALUES (1)"_s);
     }
 };
 
 // Each text comes back as it was, or is refused by field and character with nothing stored.
 TEST_F(Charset, EveryCharacterComesBackOrIsRefusedByName) {
-    TFDConnection* const connections[] = {FConnection, Connect(u"WIN1252"_s), Connect(u"UTF8"_s),
+    TFDConnection* const connections[] = {FConnection, Connect(u"WIN_1252"_s), Connect(u"utf-8"_s),
                                           Connect(u"NONE"_s)};
     const auto taken = [&](const QStringList& a) {
         QStringList all;
         for (TFDConnection* connection : connections) {
             QString columns;
-            for (const QChar name : u"LWUNAM"_s) {
+            for (const QChar name : u"LWUNAMBT"_s) {
                 TFDQuery* query = Open(u"SELECT ID, %1 FROM LETRAS"_s.arg(name), connection);
                 TField* field = query->Fields()[1];
                 query->Edit();
@@ -51,21 +53,23 @@ TEST_F(Charset, EveryCharacterComesBackOrIsRefusedByName) {
 }
 
 TEST_F(Charset, TextsAndMemosOfAnyLengthCrossSets) {
-    const UnicodeString text = UnicodeString(70000, u'é');
-    for (const QStringView set : {u"UTF8", u"WIN1252", u"ISO8859_1"}) {
-        TFDConnection* connection = Connect(set.toString());
-        TFDQuery* query = Open(u"SELECT ID, L, M FROM LETRAS"_s, connection);
-        query->Edit();
-        query->FieldByName(u"L"_s)->SetAsString(u"ÇÃÕÁÉÍÓÚÂÊÔÀÜçãõáéí"_s);
-        query->FieldByName(u"M"_s)->SetAsString(text);
-        query->Post();
-        for (const QStringView other : {u"UTF8", u"WIN1252", u"ISO8859_1"}) {
-            SCOPED_TRACE((set.toString() + other.toString()).toStdString());
-            TFDQuery* read = Open(u"SELECT L, M FROM LETRAS"_s, Connect(other.toString()));
-            EXPECT_EQ(read->Fields()[0]->AsString(), u"ÇÃÕÁÉÍÓÚÂÊÔÀÜçãõáéí");
-            EXPECT_EQ(read->Fields()[1]->AsString(), text);
+    std::map<UnicodeString, TFDConnection*> connections;
+    for (const UnicodeString& set : {u"UTF8"_s, u"WIN1252"_s, u"iso88591"_s, u"NONE"_s})
+        connections[set] = Connect(set);
+    for (const auto& [set, writer] : connections) {
+        for (const int times : {1, 4000}) {
+            const UnicodeString text = u"ÇÃÕÁÉÍÓÚÂÊÔÀÜçãõáéí"_s.repeated(times);
+            const UnicodeString names = times == 1 ? u"L, N, M, B, T"_s : u"M, B, T"_s;
+            TFDQuery* query = Open(u"SELECT ID, %1 FROM LETRAS"_s.arg(names), writer);
+            query->Edit();
+            for (size_t i = 1; i < query->Fields().size(); ++i) query->Fields()[i]->SetAsString(text);
+            query->Post();
+            for (const auto& [other, reader] : connections) {
+                TFDQuery* read = Open(u"SELECT %1 FROM LETRAS"_s.arg(names), reader);
+                for (const auto& field : read->Fields())
+                    EXPECT_EQ(field->AsString(), text) << (set + other + field->FieldName()).toStdString();
+            }
         }
-        Exec(u"UPDATE LETRAS SET L = NULL, M = NULL"_s);
     }
 }
 
@@ -95,6 +99,23 @@ TEST_F(Charset, WhatNoRecordCanHoldIsNotFound) {
         }
     }
     EXPECT_EQ(MessageOf([&] { Exec(u"UPDATE LETRAS SET L = '→'"_s); }), u"Caractere não permitido: “→”.");
+}
+
+TEST_F(Charset, NamesAndMessagesComeAsTheyAre) {
+    Connect(u"NONE"_s)->ExecSQL(u"CREATE TABLE \"AÇÃO\" (\"É\" VARCHAR(9) NOT NULL PRIMARY KEY)"_s);
+    for (const UnicodeString& set : {u"ISO8859_1"_s, u"UTF8"_s, u"NONE"_s}) {
+        SCOPED_TRACE(set.toStdString());
+        TFDConnection* connection = Connect(set);
+        TFDQuery* query = Open(u"SELECT \"É\", 'é' \"à\" FROM \"AÇÃO\" WHERE \"É\" <> 'ã'"_s, connection);
+        query->Append();
+        query->Fields()[0]->SetAsString(set);
+        query->Post();
+        EXPECT_EQ(query->FieldByName(u"à"_s)->AsString(), u"é");
+        EXPECT_EQ(
+            MessageOf([&] { connection->ExecSQL(u"EXECUTE BLOCK AS BEGIN EXCEPTION PROIBIDO; END"_s); }),
+            u"Não é permitido.");
+        EXPECT_TRUE(MessageOf([&] { connection->ExecSQL(u"DELETE FROM \"É\""_s); }).contains(u"\n-É\n"));
+    }
 }
 
 }  // namespace

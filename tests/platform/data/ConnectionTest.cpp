@@ -39,10 +39,13 @@ TEST_F(DataTest, ADatabaseThatCannotBeOpenedSaysWhy) {
     FConnection->Params()->SetValue(u"Database"_s, Path());
     EXPECT_EQ(MessageOf([&] { FConnection->CreateDatabase(); }),
               u"Não foi possível criar o banco de dados %1: o arquivo já existe."_s.arg(Path()));
-    FConnection->Params()->SetValue(u"CharacterSet"_s, u"XYZ"_s);
-    EXPECT_EQ(
-        MessageOf([&] { FConnection->Open(); }),
-        u"Não foi possível abrir o banco de dados %1: conjunto de caracteres desconhecido."_s.arg(Path()));
+    for (const UnicodeString& set : {u"XYZ"_s, u"DOS850"_s}) {
+        FConnection->Params()->SetValue(u"CharacterSet"_s, set);
+        EXPECT_EQ(
+            MessageOf([&] { FConnection->Open(); }),
+            u"O conjunto de caracteres \"%1\" não é atendido. Use ISO8859_1, WIN1252, UTF8 ou NONE."_s.arg(
+                set));
+    }
 }
 
 TEST_F(DataTest, AnOpenDatasetHoldsNothingBack) {
