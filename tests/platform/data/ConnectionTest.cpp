@@ -1,9 +1,12 @@
 // Connecting, transactions, and client calls that fail.
+#include <fcntl.h>
+#include <csignal>
 #include <QDir>
 #include <QFile>
 #include "platform/data/firebird/ClientCall.h"
 #include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/FbErrors.h"
+#include "platform/system/Processes.h"
 #include "tests/platform/data/Script.h"
 
 namespace {
@@ -12,6 +15,11 @@ void Write(const UnicodeString& path, const QByteArray& bytes) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
+}
+
+QByteArray Read(const UnicodeString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 TEST_F(DataTest, ADatabaseThatCannotBeOpenedSaysWhy) {
@@ -72,6 +80,26 @@ TEST_F(DataTest, ClosingTheConnectionClosesItsDatasets) {
     EXPECT_EQ(query->Connection(), nullptr);
     EXPECT_EQ(closed, 2);
     FConnection = nullptr;
+}
+
+// The client library takes the signals over when it first connects, and its descriptors are inherited.
+TEST_F(DataTest, TheProcessStaysItsOwn) {
+    for (void (*const host)(int) : {SIG_DFL, SIG_IGN}) {
+        for (const int signal : {SIGTERM, SIGINT}) {
+            if (host == SIG_IGN) std::signal(signal, host);
+            Connect();
+            EXPECT_EQ(std::signal(signal, SIG_DFL), host);
+        }
+    }
+    for (int file = 3; file < 100; ++file) {
+        const int flags = fcntl(file, F_GETFD);
+        EXPECT_TRUE(flags < 0 || (flags & FD_CLOEXEC)) << file;
+    }
+    Open(u"SELECT LPAD(A.T, 30000, B.T) FROM NUMEROS A, NUMEROS B WHERE B.N < 6 ORDER BY 1"_s);
+    const UnicodeString list = InFolder(u"arquivos"_s);
+    const int program = StartProgram(u"/bin/sh"_s, {u"-c"_s, u"exec > \"$0\"; ls /proc/$$/fd; true"_s, list});
+    ASSERT_TRUE(HasEnded(program, 5000));
+    EXPECT_EQ(Read(list), "0\n1\n2\n") << "files of a sort that came later";
 }
 
 // Lets the Nth client call of a scope fail with one code.
