@@ -3,7 +3,6 @@
 #include <algorithm>
 #include "platform/data/Connection.h"
 #include "platform/data/firebird/Blob.h"
-#include "platform/data/firebird/ErrorCodes.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/PreparedQuery.h"
 #include "platform/data/Query.h"
@@ -38,7 +37,8 @@ std::optional<QByteArray> TFDCustomQuery::BlobIfHeld(int row, int column) const 
         QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), id, FPrepared->IsWide());
         if (StillHolds(row, column)) return bytes;
     } catch (const EFDError& error) {
-        if (!error.Has(kNoBlob) || !HasKey()) throw;
+        // What the identity leads to when it is nobody's any more, the server tells in many ways.
+        if (!error.ConnectionUsable || error.BrokenOff || StillHolds(row, column)) throw;
     }
     return std::nullopt;
 }

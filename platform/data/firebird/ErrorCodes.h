@@ -11,7 +11,6 @@ constexpr int64_t kConnectionLost = 335544856;       // the server or somebody o
 constexpr int64_t kTransliteration = 335544565;  // a character that one of two character sets lacks
 constexpr int64_t kTruncation = 335544914;       // a text longer than its place
 constexpr int64_t kInvalidRole = 335545091;      // the role does not exist or is not granted
-constexpr int64_t kNoBlob = 335544329;           // nothing has this identity (any more)
 constexpr int64_t kNotValid = 335544347;         // a value that a column may not have, such as a missing one
 constexpr int64_t kDuplicateKey = 335544665;     // a key that is there already, by its constraint
 constexpr int64_t kDuplicateIndex = 335544349;   // the same by a unique index alone
