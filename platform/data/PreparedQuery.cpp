@@ -127,7 +127,7 @@ TFieldDescription PreparedQuery::Describe(const ColumnInfo& column, const Unicod
     if (known.InKey(column.BaseColumn)) description.ProviderFlags |= pfInKey;
     if (const TableColumn* facts = known.Find(column.BaseColumn)) {
         description.Required = facts->NotNull && !facts->HasDefault && !facts->Computed && !facts->Identity;
-        description.ReadOnly = facts->Computed;
+        description.Computed = description.ReadOnly = facts->Computed;
     }
     return description;
 }

@@ -124,7 +124,7 @@ bool TField::AsBoolean() const {
 void TField::CheckWritable() const {
     if (!FDataSet) throw EDatabaseError(u"Field '%1' has no dataset"_s.arg(FFieldName));
     FDataSet->CheckEditing();
-    if (ReadOnly()) throw EDatabaseError(u"Field '%1' cannot be modified"_s.arg(FFieldName));
+    if (FReadOnly.value_or(FDescription.Computed)) throw EDatabaseError(u"Field '%1' cannot be modified"_s.arg(FFieldName));
 }
 
 void TField::Store(Variant&& value) {

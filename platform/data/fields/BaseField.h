@@ -29,6 +29,7 @@ struct TFieldDescription {
     UnicodeString BaseColumn;  // the column's bare name in its table; empty for an expression
     UnicodeString BaseTable;   // the table it comes from; empty for an expression
     bool Required = false;     // NOT NULL in its table
+    bool Computed = false;     // by its table
     bool ReadOnly = false;     // computed, or not of the table that posts go to
     TProviderFlags ProviderFlags = pfInUpdate | pfInWhere;
 };
@@ -67,8 +68,9 @@ class TField : public TComponent {
     void SetProviderFlags(TProviderFlags flags);
     bool Required() const { return FRequired.value_or(FDescription.Required); }
     void SetRequired(bool required) { FRequired = required; }
-    // What cannot be written to the table is, unless the host says otherwise: its value is then kept until
-    // the record is posted.
+    // Until the host says otherwise, what cannot be written is read-only to controls. Code may set it, as the
+    // name of a customer that was just chosen, but for a column that its table computes: it is shown until
+    // the record is posted and read again.
     bool ReadOnly() const { return FReadOnly.value_or(FDescription.ReadOnly); }
     void SetReadOnly(bool readOnly) { FReadOnly = readOnly; }
     bool Visible() const { return FVisible; }

@@ -167,12 +167,20 @@ Attachment::~Attachment() {
 
 bool Attachment::End(CallKind kind, ClientBody body) noexcept {
     // The engine in this process always answers: a long rollback or flush is its work.
-    return QuietClientCall(kind, body, {FHandle, FLocal ? 0s : kEnding, FLocal});
+    return QuietClientCall(kind, body, {FHandle, EndingTime(), FLocal});
+}
+
+std::chrono::seconds Attachment::EndingTime() const {
+    return FLocal ? 0s : kEnding;
+}
+
+std::chrono::seconds Attachment::TimeFor(CallKind kind) const {
+    return kind == CallKind::Rollback ? EndingTime() : std::chrono::seconds(FStatementTimeout);
 }
 
 void Attachment::Call(CallKind kind, ClientBody body) {
     try {
-        ClientCall(kind, body, {FHandle, std::chrono::seconds(FStatementTimeout), FLocal});
+        ClientCall(kind, body, {FHandle, TimeFor(kind), FLocal});
     } catch (const EFDError& error) {
         if (FUsable && !error.ConnectionUsable) FLostIn = kind;
         FUsable = FUsable && error.ConnectionUsable;

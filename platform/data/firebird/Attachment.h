@@ -4,6 +4,7 @@
 //     auto attachment = Attachment::Attach(settings);
 //     StatementLease statement = attachment->Prepare(u"SELECT * FROM T"_s);
 #pragma once
+#include <chrono>
 #include <memory>
 #include <vector>
 #include "platform/data/firebird/ClientCall.h"
@@ -79,6 +80,8 @@ class Attachment : public std::enable_shared_from_this<Attachment> {
     friend class StatementLease;  // gives its statement back
     Attachment(Firebird::IAttachment* handle, const AttachSettings& settings, unsigned set);
     static std::shared_ptr<Attachment> Reach(const AttachSettings& settings, bool create);
+    std::chrono::seconds EndingTime() const;
+    std::chrono::seconds TimeFor(CallKind kind) const;
     void GiveBack(std::unique_ptr<Statement> statement);
 
     Firebird::IAttachment* FHandle;

@@ -75,6 +75,7 @@ class CallWatch {
     EFDError Judged(const EFDError& error) const {
         EFDError judged = FTimedOut ? error.Saying(u"O servidor não respondeu no tempo permitido."_s) : error;
         judged.BrokenOff = FAsked.has_value();
+        judged.ConnectionUsable = judged.ConnectionUsable && !FGivenUp;
         return judged;
     }
 
@@ -90,12 +91,19 @@ class CallWatch {
             return;
         }
         FTimedOut = FLimit.Time.count() > 0 && now - FBegin > FLimit.Time;
-        if (!FTimedOut && !(IsStatement(FKind) && UserInterface().WaitCancelled())) return;
+        if (!FTimedOut && !(MayBeCancelled() && UserInterface().WaitCancelled())) return;
         FAsked = now;
         g_stop = true;
         IsStatement(FKind) ? Cancel(fb_cancel_raise) : GiveUp();
     }
-    void GiveUp() { FLimit.Connections ? FLimit.Connections->Shut() : Cancel(fb_cancel_abort); }
+    // Not an ending: what was written is to be decided on.
+    bool MayBeCancelled() const {
+        return IsStatement(FKind) || FKind == CallKind::Start || FKind == CallKind::Attach;
+    }
+    void GiveUp() {
+        FGivenUp = true;
+        FLimit.Connections ? FLimit.Connections->Shut() : Cancel(fb_cancel_abort);
+    }
     void Cancel(int how) {
         CallStatus status;
         try {
@@ -109,7 +117,7 @@ class CallWatch {
     const CallLimit FLimit;
     const Clock::time_point FBegin = Clock::now();
     std::optional<Clock::time_point> FAsked;
-    bool FTimedOut = false;
+    bool FTimedOut = false, FGivenUp = false;
 };
 
 // Runs `body` on the service thread and throws what it threw.

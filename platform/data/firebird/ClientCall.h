@@ -38,9 +38,10 @@ struct CallLimit {
 };
 
 // Runs `body` with a status of its own on the service thread, and waits for it as the screen does; what is
-// short on an engine in this process runs at once. Escape breaks off a statement, the limit also a commit; a
-// server that does not even answer to that loses the connection. A call out of such a wait, which only
-// painting can make, is refused by a silent abort. EFDError.
+// short on an engine in this process runs at once. Escape breaks off connecting, a
+// transaction's beginning and a statement, the limit also a commit; a server that does not even answer to
+// that loses the connection. A call out of such a wait, which only painting can make, is refused by a silent
+// abort. EFDError.
 void ClientCall(CallKind kind, ClientBody body, const CallLimit& limit = {});
 
 // The same for endings: true when `body` ran without an error; nothing is thrown.

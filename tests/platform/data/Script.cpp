@@ -151,6 +151,7 @@ void ScriptTest::Do(const QStringList& steps) {
 }
 
 QString ScriptTest::Seen(const QString& what) const {
+    if (what.startsWith(u"closed ")) return Flag(FQuery->FieldByName(what.mid(7))->ReadOnly());
     const auto look = kLooks.find(what);
     if (look == kLooks.end()) return FieldText(*FQuery->FieldByName(what));
     const Variant seen = look->second(*FQuery);

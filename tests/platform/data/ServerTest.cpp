@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QProcess>
 #include "platform/data/firebird/ClientCall.h"
+#include "tests/platform/data/Screen.h"
 #include "tests/platform/data/Script.h"
 
 namespace {
@@ -55,6 +56,12 @@ TEST_F(Mortal, LosesNothingWhenItDies) {
         FQuery->Open();
         return QString();
     };
+    std::optional<Screen> screen;
+    const auto escape = [&](const QStringList& a) {
+        screen.reset();
+        if (a[0] == u"yes") screen.emplace().Escape = 1;
+        return QString();
+    };
     const auto down = [&](const QStringList& a) {
         return MessageOf([&] { Do(a); }).startsWith(u"lost: ") ? "yes" : "no";
     };
@@ -62,7 +69,8 @@ TEST_F(Mortal, LosesNothingWhenItDies) {
                   {"Back", back},
                   {"KillAtCommit", killAtCommit},
                   {"Limit", limit},
-                  {"Down", down}});
+                  {"Down", down},
+                  {"Escape", escape}});
 }
 
 }  // namespace
