@@ -180,7 +180,13 @@ void TFDCustomConnection::StartTransaction() {
 }
 
 void TFDCustomConnection::Commit() {
-    EndTransaction(true);
+    const bool lostBefore = FAttachment && !FAttachment->Usable();
+    try {
+        EndTransaction(true);
+    } catch (const EFDError& error) {
+        if (lostBefore) throw;
+        throw Undecided(error);
+    }
 }
 
 void TFDCustomConnection::Rollback() {

@@ -236,6 +236,7 @@ class TDataSet : public TComponent {
     void FieldFreed(TField* field);
     TField* TakeField(const UnicodeString& name, TFieldType type);
     void DropUnmatched(const std::vector<TField*>& matched);
+    void DropNew(const std::vector<TField*>& matched);
     Variant BlobValue(int row, int column) const;
     std::optional<QByteArray> BlobBytes(int row, int column) const;
     Variant ColumnValue(const TField* field) const;

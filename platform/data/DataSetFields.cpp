@@ -107,14 +107,28 @@ void TDataSet::DropUnmatched(const std::vector<TField*>& matched) {
     }
 }
 
+// Those that were made in vain.
+void TDataSet::DropNew(const std::vector<TField*>& matched) {
+    for (TField* field : matched) {
+        if (std::find(FFields.begin(), FFields.end(), field) != FFields.end()) continue;
+        field->FDataSet = nullptr;
+        field->Free();
+    }
+}
+
 void TDataSet::SetColumns(const TStringArray& names, const std::vector<TFieldDescription>& described) {
     TStringArray taken;
     std::vector<TField*> matched;
-    for (size_t i = 0; i < names.size(); ++i) {
-        taken.push_back(UniqueName(taken, names[i]));
-        matched.push_back(TakeField(taken.back(), described[i].Type));
+    try {
+        for (size_t i = 0; i < names.size(); ++i) {
+            taken.push_back(UniqueName(taken, names[i]));
+            matched.push_back(TakeField(taken.back(), described[i].Type));
+        }
+        DropUnmatched(matched);
+    } catch (...) {
+        DropNew(matched);
+        throw;
     }
-    DropUnmatched(matched);
     FFields = matched;
     ++FFieldsVersion;
     for (size_t i = 0; i < matched.size(); ++i) {

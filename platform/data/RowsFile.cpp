@@ -118,6 +118,7 @@ void TRowsReader::ReadHead() {
     FStream >> version >> rows >> columns;
     if (version > kVersion)
         throw Exception(u"O arquivo '%1' foi gravado por uma versão mais nova do programa."_s.arg(FPath));
+    Require(version > 0);
     FRows = rows;
     for (int i = 0; i < columns; ++i) {
         const UnicodeString name = QString::fromUtf8(ReadBytes());
@@ -156,7 +157,7 @@ QByteArray TRowsReader::ReadBytes() {
 bool TRowsReader::Next(std::vector<Variant>& row) {
     row.resize(FColumns.size());
     if (FDone == FRows) {
-        Require(FFile.read(kEnd.size()) == kEnd || FColumns.empty());
+        Require((FFile.read(kEnd.size()) == kEnd || FColumns.empty()) && FFile.atEnd());
         return false;
     }
     QByteArray nulls((qsizetype(FColumns.size()) + 7) / 8, '\0');

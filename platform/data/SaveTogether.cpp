@@ -34,7 +34,7 @@ class TogetherSave {
   private:
     void Commit() {
         try {
-            FConnection.Commit();
+            FConnection.EndTransaction(true);
         } catch (const EFDError& error) {
             if (!error.ConnectionUsable && StoredAfterAll()) return CommitItems();
             GoBack();

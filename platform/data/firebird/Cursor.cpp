@@ -54,6 +54,7 @@ int Cursor::TakeRows(Firebird::ThrowStatusWrapper& status, RowStore& store, int 
 void Cursor::Finish(RowStore& store, bool ended) {
     if (!ended) return;
     Close();
+    FStatement = {};  // for the next who needs it
     store.Fit();
 }
 

@@ -187,4 +187,12 @@ EFDError ErrorOfCodes(std::vector<int64_t> codes) {
     return Assemble(items, UnicodeString());
 }
 
+EFDError Undecided(const EFDError& error) {
+    if (error.ConnectionUsable) return error;
+    return error.Saying(
+        u"A conexão com o servidor foi perdida durante a gravação. Verifique se os dados foram gravados "
+        u"antes de "
+        u"tentar novamente."_s);
+}
+
 }  // namespace fichario

@@ -2,6 +2,7 @@
 
 #include "platform/data/firebird/BoundStatement.h"
 #include "platform/data/firebird/Cursor.h"
+#include "platform/data/firebird/FbErrors.h"
 #include "platform/data/firebird/Misfits.h"
 #include "platform/data/firebird/WideText.h"
 
@@ -28,7 +29,11 @@ int64_t ExecuteSql(Attachment& attachment, const UnicodeString& sql, const std::
     if (returned) *returned = RowStore(RowLayout(bound.Statement->Columns()));
     WriteScope write(attachment);
     const int64_t changed = bound.Statement->Execute(*write.Get(), *bound.Input, returned);
-    write.Commit();
+    try {
+        write.Commit();
+    } catch (const EFDError& error) {
+        throw Undecided(error);
+    }
     return changed;
 }
 

@@ -66,6 +66,10 @@ TEST_F(DataTest, OnlyWholeFilesOfRowsAreRead) {
         WriteWholeFile(path, whole.first(size));
         EXPECT_NE(MessageOf([&] { ReadAll(path); }), u""_s) << size;
     }
+    for (const QByteArray& wrong : {whole + ' ', QByteArray(whole).replace(8, 1, QByteArray(1, '\0'))}) {
+        WriteWholeFile(path, wrong);
+        EXPECT_NE(MessageOf([&] { ReadAll(path); }), u""_s) << "more than the end, or no version";
+    }
     WriteWholeFile(path, QByteArray(whole).replace(8, 1, "\x02"));
     EXPECT_TRUE(MessageOf([&] { ReadAll(path); }).contains(u"versão mais nova"_s));
     WriteWholeFile(path, QByteArray(whole).replace(10, 8, "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"));
