@@ -66,11 +66,12 @@ std::vector<InputValue> InputsFor(const ScannedSql& sql, const std::vector<Varia
 }
 
 // The first column of the first row, null without one.
-Variant FirstValue(Attachment& attachment, const RowStore& rows, bool wide) {
+Variant FirstValue(Attachment& attachment, const RowStore& rows) {
     if (rows.Count() == 0) return Variant::Null();
     const Variant value = rows.Value(0, 0);
     const TFieldType type = rows.Layout().Type(0);
     if (value.IsNull() || (type != ftMemo && type != ftBlob)) return value;
+    const bool wide = rows.Layout().Encoding(0) == TextEncoding::Utf8Signs;
     const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), value.ToInt64(), wide);
     if (type == ftBlob) return bytes;
     const std::optional<UnicodeString> text = DecodeExact(rows.Layout().Encoding(0), bytes);
@@ -78,29 +79,44 @@ Variant FirstValue(Attachment& attachment, const RowStore& rows, bool wide) {
     return *text;
 }
 
-// A stored character that the connection's set lacks fails its whole row: then it is read as UTF-8.
 Variant ReadScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& sql,
                    const std::vector<Variant>& values) {
     const ScannedSql scanned = ScanParams(sql);
-    const std::vector<InputValue> inputs = InputsFor(scanned, values);
+    return FirstValue(*attachment, ReadWhole(attachment, scanned.Text, InputsFor(scanned, values), 1));
+}
+
+// Does `work` in the host's transaction or in one of its own.
+template <class Work>
+Variant InTransactionOf(Attachment& attachment, Work work) {
+    if (attachment.Host()) return work();
+    attachment.StartHost();
+    Variant value;
     try {
-        return FirstValue(*attachment, ReadRows(*attachment, scanned.Text, inputs, nullptr, 1), false);
-    } catch (const EFDError& error) {
-        if (!error.Has(kTransliteration)) throw;
-        PreparedQuery wide(attachment, sql);
-        if (!wide.Widen()) throw;
-        return FirstValue(*attachment, wide.Read(wide.Sql().Text, inputs), true);
+        value = work();
+    } catch (...) {
+        if (attachment.Usable()) attachment.EndHost(false);
+        throw;
     }
+    try {
+        attachment.EndHost(true);
+    } catch (const EFDError& error) {
+        throw Undecided(error);
+    }
+    return value;
 }
 
 // What a statement that is no SELECT gives: one that gives rows one after the other (EXECUTE BLOCK) is read.
+// A blob lives as long as the transaction.
 Variant ExecuteScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& sql,
                       const std::vector<Variant>& values) {
     const ScannedSql scanned = ScanParams(sql);
     if (attachment->Prepare(scanned.Text)->HasCursor()) return ReadScalar(attachment, sql, values);
-    RowStore returned;
-    ExecuteSql(*attachment, scanned.Text, InputsFor(scanned, values), &returned);
-    return FirstValue(*attachment, returned, false);
+    const std::vector<InputValue> inputs = InputsFor(scanned, values);
+    return InTransactionOf(*attachment, [&] {
+        RowStore returned;
+        ExecuteSql(*attachment, scanned.Text, inputs, &returned);
+        return FirstValue(*attachment, returned);
+    });
 }
 
 }  // namespace
@@ -154,8 +170,9 @@ bool TFDCustomConnection::Revive(const EFDError& error, Use use, const std::shar
     if (error.ConnectionUsable || error.BrokenOff || !used) return false;
     if (used == FAttachment && InTransaction()) return false;
     const CallKind lost = used->LostIn();
+    if (use == Use::Reading && lost == CallKind::Commit) return false;
     const bool nothingWritten = lost == CallKind::Start || lost == CallKind::Prepare;
-    if (use == Use::Reading ? lost == CallKind::Commit : used != FAttachment || !nothingWritten) return false;
+    if (use == Use::Writing && (used != FAttachment || !nothingWritten)) return false;
     try {
         RequireAttachment();
         return true;
@@ -177,14 +194,14 @@ bool TFDCustomConnection::InTransaction() const {
 
 void TFDCustomConnection::StartTransaction() {
     Lasting(Use::Writing, [&] { RequireAttachment()->StartHost(); });
+    ++FTransactions;
 }
 
 void TFDCustomConnection::Commit() {
-    const bool lostBefore = FAttachment && !FAttachment->Usable();
     try {
         EndTransaction(true);
     } catch (const EFDError& error) {
-        if (lostBefore) throw;
+        if (FAttachment->LostIn() != CallKind::Commit) throw;
         throw Undecided(error);
     }
 }
@@ -198,6 +215,8 @@ void TFDCustomConnection::EndTransaction(bool commit) {
     const std::vector<TFDDataSet*> dataSets = FDataSets;
     for (TFDDataSet* dataSet : dataSets) dataSet->TransactionEnding();
     FAttachment->EndHost(commit);
+    if (commit) return;
+    for (TFDDataSet* dataSet : dataSets) dataSet->TransactionUndone();
 }
 
 // ---- statements ----

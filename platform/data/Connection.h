@@ -76,7 +76,7 @@ class TFDCustomConnection : public TComponent {
 
     // The open connection, opened now when it is not. Internal to the data layer, as what follows.
     const std::shared_ptr<fichario::Attachment>& RequireAttachment();
-    enum class Use { Reading, Writing };
+    enum class Use { Fetching, Reading, Writing };  // Reading: what may end in a commit of its own
     // What `work` gives. When it finds that the server has gone since the last use, but is there again, it is
     // done once more on a new connection: if it reads, or has not written anything yet. Not in a host's
     // transaction.
@@ -86,7 +86,7 @@ class TFDCustomConnection : public TComponent {
         try {
             return work();
         } catch (const EFDError& error) {
-            if (!Revive(error, use, used)) throw;
+            if (!FAttachment || !Revive(error, use, used)) throw;
         }
         return work();
     }
@@ -98,12 +98,14 @@ class TFDCustomConnection : public TComponent {
 
   private:
     friend class TFDDataSet;
+    friend class TFDCustomQuery;
     friend class fichario::TogetherSave;
     void CloseDataSets();
     void EndTransaction(bool commit);
 
     TStringList FParams;
     std::shared_ptr<fichario::Attachment> FAttachment;
+    int FTransactions = 0;  // that the host has begun
     std::vector<TFDDataSet*> FDataSets;
 };
 

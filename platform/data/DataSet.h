@@ -77,7 +77,8 @@ class TDataSet : public TComponent {
     // How many records the statement has, those not yet fetched included: free when all rows are here, else
     // one count on the server, or by reading to the end where the statement cannot be counted.
     int RecordCount();
-    // The current record, by its key, or, in a dataset without one, good until the next Open or Refresh.
+    // The current record, by its key, or, in a dataset without one, good until its rows
+    // are read anew.
     TBookmark GetBookmark() const;
     // Whether it is among the rows that are here.
     bool BookmarkValid(const TBookmark& bookmark) const;
@@ -164,6 +165,9 @@ class TDataSet : public TComponent {
     // when it holds another one by now. EUnreadableText when that cannot be.
     virtual std::optional<QByteArray> DoReadBlob(int row, int column) const = 0;
 
+    // A row took new values, and with them another place.
+    virtual void DoRowMoved(uint64_t, uint64_t) const {}
+
     // Takes over what the statement's columns are: keeps the fields whose name and class match, makes the
     // missing ones, frees those it made that no longer match. EDatabaseError for a field of the host's that
     // is not there.
@@ -215,10 +219,12 @@ class TDataSet : public TComponent {
     void Scrolled();
     void FetchUntil(int row);
     void RenewRows() const;
+    void Reload();
+
+    // Finding again (DataSetAgain.cpp)
     int FindKey(const std::vector<Variant>& key, int near, int first) const;
     int FindAgain(const std::vector<Variant>& key, int near, int loaded);
     int RowOf(const TBookmark& bookmark) const;
-    void Reload();
 
     // Editing (DataSetEdit.cpp)
     void BeginInsert(bool atEnd);

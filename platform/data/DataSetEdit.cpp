@@ -136,7 +136,9 @@ fichario::TypedRecord TDataSet::Typed() const {
 // meanwhile types for itself.
 void TDataSet::TypeAgain(const fichario::TypedRecord& typed) {
     if (Editing() || typed.State == dsBrowse || typed.Result != FResult || typed.Row >= RowCount()) return;
+    const uint64_t before = FRows->Address(typed.Row);
     FRows->SetValues(typed.Row, typed.Before);
+    DoRowMoved(before, FRows->Address(typed.Row));
     FRow = typed.Row;
     FRowBefore = typed.RowBefore;
     *FEdits = typed.Edits;
@@ -152,10 +154,11 @@ void TDataSet::Delete() {
     CheckActive();
     if (FState == dsInsert) return Cancel();
     if (FRow < 0) throw EDatabaseError(u"Cannot perform this operation on an empty dataset"_s);
-    Call(BeforeDelete);
-    if (FRow < 0) return;
-    DoDelete();
+    const TDataSetState state = FState;
     const int row = FRow;
+    Call(BeforeDelete);
+    if (FState != state || FRow != row) return;
+    DoDelete();
     FRows->Remove(row);
     FEdits->Clear();
     Settle(row);

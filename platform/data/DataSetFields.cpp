@@ -229,7 +229,8 @@ void TDataSet::KeepBlob(int column) {
 // Moments and numbers are kept as exactly as the server keeps them, so that the same one typed again is no
 // change, and one that was stored is known again.
 void TDataSet::StoreColumn(TField* field, Variant&& value) {
-    if (value.Kind() == vkDateTime) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
+    const bool moment = value.Kind() == vkDateTime && field->DataType() != ftDate;
+    if (moment) value = fichario::FromWire(fichario::ToWire(value.ToDateTime()));
     if (value.Kind() == vkFloat && FRows->Layout().IsFloat(field->FColumn))
         value = fichario::FromFloat(static_cast<float>(value.ToDouble()));
     if (FState == dsEdit) KeepBlob(field->FColumn);

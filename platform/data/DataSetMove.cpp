@@ -46,7 +46,11 @@ int TDataSet::FetchMore(int rows) {
     const std::vector<Variant> key = CurrentKey();
     FAllFetched = !DoFetch(rows);
     const bool anew = FResult != result;  // all rows were read again, and others may have changed some
-    if (anew && FRow >= 0) Settle(FindAgain(key, FRow, before));
+    if (anew && FRow >= 0) {
+        const int near = FRow;
+        Settle(near);  // whatever fails now, the record is one that is here
+        Settle(FindAgain(key, near, before));
+    }
     const int arrived = RowCount() - before;
     if (auto* events = Events(); events && (anew || arrived > 0))
         anew ? events->DataSetChanged() : events->RowsArrived();
@@ -135,14 +139,18 @@ void TDataSet::MoveToRow(int row) {
 
 bool TDataSet::Locate(const UnicodeString& keyFields, const Variant& values, TLocateOptions options) {
     CheckBrowseMode();
-    const auto matcher = fichario::RowMatcher::Make(*this, FRows->Layout(), keyFields, values, options);
-    if (!matcher) return false;
-    RenewRows();
-    int found = matcher->Find(*this, *FRows, 0);
-    while (found < 0 && !FAllFetched) {
-        const int searched = RowCount();
+    const auto make = [&] {
+        return fichario::RowMatcher::Make(*this, FRows->Layout(), keyFields, values, options);
+    };
+    auto matcher = make();
+    if (matcher) RenewRows();
+    int found = matcher ? matcher->Find(*this, *FRows, 0) : -1;
+    while (matcher && found < 0 && !FAllFetched) {
+        const int searched = RowCount(), result = FResult;
         FetchUntil(searched);
-        found = matcher->Find(*this, *FRows, searched);
+        const bool anew = FResult != result;  // all rows came again, perhaps in another encoding
+        if (anew) matcher = make();
+        if (matcher) found = matcher->Find(*this, *FRows, anew ? 0 : searched);
     }
     if (found < 0) return false;
     Settle(found);
@@ -156,12 +164,14 @@ void TDataSet::Reload() {
     const int row = FRow, loaded = RowCount();
     const std::vector<Variant> key = CurrentKey();
     FAllFetched = !DoOpen();
-    Settle(row < 0 ? 0 : FindAgain(key, row, loaded));
+    Settle(std::max(row, 0));  // whatever fails now, the record is one that is here
+    if (row >= 0) Settle(FindAgain(key, row, loaded));
 }
 
 void TDataSet::Refresh() {
     CheckBrowseMode();
     Call(BeforeRefresh);
+    if (!Active()) return;
     DisableControls();
     try {
         Reload();

@@ -1,5 +1,6 @@
 // The values set so far in the record being edited, by column.
 #pragma once
+#include <algorithm>
 #include <optional>
 #include <vector>
 #include "platform/data/DataTypes.h"
@@ -9,54 +10,59 @@ namespace fichario {
 
 class EditBuffer {
   public:
-    using Values = std::vector<std::optional<Variant>>;
-
+    // The room stays for the next record.
     void Clear() {
-        FValues.clear();
+        for (size_t i = 0; i < FEnd; ++i) FSlots[i].Value.reset();
+        FEnd = 0;
         FBefore.clear();
-        FTurns.clear();
         Doubtful.reset();
     }
 
     // What has been set until now are a new record's defaults: they are written but count as no change.
-    void TakeDefaults() { FBefore = FValues; }
+    void TakeDefaults() {
+        FBefore.clear();
+        for (size_t i = 0; i < FEnd; ++i) FBefore.push_back(FSlots[i].Value);
+    }
     // What the row holds of a column before it is set, when it cannot be asked for later.
-    void KeepBefore(int column, Variant&& value) { Put(FBefore, column, std::move(value)); }
+    void KeepBefore(int column, Variant&& value) {
+        const auto index = static_cast<size_t>(column);
+        if (index >= FBefore.size()) FBefore.resize(index + 1);
+        FBefore[index] = std::move(value);
+    }
 
     // The record as it was written when the connection was lost during its commit: it may be stored so.
     std::optional<std::vector<WriteColumn>> Doubtful;
 
     // Null when the column has not been set.
-    const Variant* Find(int column) const { return Find(FValues, column); }
+    const Variant* Find(int column) const {
+        const auto index = static_cast<size_t>(column);
+        return index < FEnd && FSlots[index].Value ? &*FSlots[index].Value : nullptr;
+    }
     // What a value must differ from to count as changed; null: what the row holds.
-    const Variant* Before(int column) const { return Find(FBefore, column); }
+    const Variant* Before(int column) const {
+        const auto index = static_cast<size_t>(column);
+        return index < FBefore.size() && FBefore[index] ? &*FBefore[index] : nullptr;
+    }
     void Set(int column, Variant&& value) {
-        Put(FValues, column, std::move(value));
-        FTurns.resize(FValues.size());
-        FTurns[static_cast<size_t>(column)] = ++FTurn;
+        const auto index = static_cast<size_t>(column);
+        if (index >= FSlots.size()) FSlots.resize(index + 1);
+        FEnd = std::max(FEnd, index + 1);
+        FSlots[index] = {std::move(value), ++FTurn};
     }
     // Higher, the later the column was set; 0: not set.
-    int Turn(int column) const {
-        const auto index = static_cast<size_t>(column);
-        return index < FTurns.size() ? FTurns[index] : 0;
-    }
+    int Turn(int column) const { return Find(column) ? FSlots[static_cast<size_t>(column)].Turn : 0; }
     // All columns up to this one at most have been set.
-    int End() const { return static_cast<int>(FValues.size()); }
+    int End() const { return static_cast<int>(FEnd); }
 
   private:
-    static const Variant* Find(const Values& values, int column) {
-        const auto index = static_cast<size_t>(column);
-        return index < values.size() && values[index] ? &*values[index] : nullptr;
-    }
+    struct Slot {
+        std::optional<Variant> Value;
+        int Turn = 0;
+    };
 
-    static void Put(Values& values, int column, Variant&& value) {
-        const auto index = static_cast<size_t>(column);
-        if (index >= values.size()) values.resize(index + 1);
-        values[index] = std::move(value);
-    }
-
-    Values FValues, FBefore;
-    std::vector<int> FTurns;
+    std::vector<Slot> FSlots;  // those behind FEnd are empty
+    size_t FEnd = 0;
+    std::vector<std::optional<Variant>> FBefore;
     int FTurn = 0;
 };
 

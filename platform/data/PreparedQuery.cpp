@@ -89,8 +89,9 @@ bool PreparedQuery::Widen() {
     FWide = true;
     try {
         PrepareAgain();
-    } catch (const EFDError&) {
+    } catch (const EFDError& error) {
         FWide = false;
+        if (!error.Has(kSqlError)) throw;
     }
     return FWide;
 }
@@ -136,6 +137,19 @@ std::vector<TFieldDescription> PreparedQuery::Describe(const UnicodeString& tabl
     std::vector<TFieldDescription> descriptions;
     for (const ColumnInfo& column : FColumns) descriptions.push_back(Describe(column, table));
     return descriptions;
+}
+
+// Such a character fails its whole row.
+RowStore ReadWhole(const std::shared_ptr<Attachment>& attachment, const UnicodeString& sql,
+                   const std::vector<InputValue>& values, int most) {
+    try {
+        return ReadRows(*attachment, sql, values, nullptr, most);
+    } catch (const EFDError& error) {
+        if (!error.Has(kTransliteration)) throw;
+        PreparedQuery wide(attachment, sql);
+        if (!wide.Widen()) throw;
+        return wide.Read(wide.Sql().Text, values);
+    }
 }
 
 }  // namespace fichario

@@ -1,5 +1,6 @@
 // A query's statement as prepared on its connection, with what is known of its columns.
 #pragma once
+#include <limits>
 #include "platform/data/fields/BaseField.h"
 #include "platform/data/firebird/BoundStatement.h"
 #include "platform/data/firebird/RecordWriter.h"
@@ -61,5 +62,9 @@ class PreparedQuery {
     bool FHasCursor = false;
     bool FWide = false;
 };
+
+// All rows of a SELECT, past the connection's set where a stored character lies outside it.
+RowStore ReadWhole(const std::shared_ptr<Attachment>& attachment, const UnicodeString& sql,
+                   const std::vector<InputValue>& values, int most = std::numeric_limits<int>::max());
 
 }  // namespace fichario

@@ -58,14 +58,15 @@ void TFDCustomQuery::SQLChanged() {
 void TFDCustomQuery::TakeText() {
     if (!std::exchange(FTextChanged, false)) return;
     FPrepared.reset();
-    FParams.SetNames(ScanParams(FSQL.Text()).Names);
+    FText = FSQL.Text();
+    FParams.SetNames(ScanParams(FText).Names);
 }
 
 // When it cannot be prepared anew, what is known of the statement before stays: rows of it may be here.
 PreparedQuery& TFDCustomQuery::RequirePrepared() const {
     const std::shared_ptr<Attachment>& attachment = RequireConnection().RequireAttachment();
     if (!FPrepared || FPrepared->On() != attachment) {
-        auto prepared = std::make_unique<PreparedQuery>(attachment, FSQL.Text());
+        auto prepared = std::make_unique<PreparedQuery>(attachment, FText);
         if (FPrepared && FPrepared->IsWide()) prepared->Widen();
         FPrepared = std::move(prepared);
         FColumnsVersion = -1;
@@ -79,13 +80,18 @@ void TFDCustomQuery::Prepare() {
 }
 
 UnicodeString TFDCustomQuery::MainTable() const {
-    return FPrepared ? FPrepared->Shape().MainTable() : SqlShape(ScanParams(FSQL.Text()).Text).MainTable();
+    return FPrepared ? FPrepared->Shape().MainTable() : SqlShape(ScanParams(FText).Text).MainTable();
+}
+
+TStringArray TFDCustomQuery::ColumnNames() const {
+    TStringArray names;
+    for (const ColumnInfo& column : FPrepared->Columns()) names.push_back(column.Name);
+    return names;
 }
 
 void TFDCustomQuery::TakeColumns() {
-    TStringArray names;
-    for (const ColumnInfo& column : FPrepared->Columns()) names.push_back(column.Name);
-    SetColumns(names, FPrepared->Describe(UpdateTable()));
+    FNames = ColumnNames();
+    SetColumns(FNames, FPrepared->Describe(UpdateTable()));
 }
 
 void TFDCustomQuery::DoDescribe() {
@@ -200,7 +206,7 @@ bool TFDCustomQuery::DoFetch(int rows) {
 // Whether the rows can be had in another way than by the cursor that failed.
 bool TFDCustomQuery::CanBeginAgain(const EFDError& error) {
     if (error.Has(kTransliteration)) return FPrepared && (FPrepared->IsWide() || FPrepared->Widen());
-    if (!RequireConnection().Revive(error, Use::Reading, FCursor->On())) return false;
+    if (!RequireConnection().Revive(error, Use::Fetching, FCursor->On())) return false;
     RequirePrepared();
     return true;
 }
@@ -211,6 +217,8 @@ bool TFDCustomQuery::FetchAgain(int rows) {
     std::unique_ptr<RowStore> wide;
     std::unique_ptr<Cursor> cursor;
     const bool more = OpenRows(wide, cursor, wanted, FOpenedWith);
+    if (ColumnNames() != FNames)
+        throw EDatabaseError(u"The columns of the statement have changed; refresh the dataset"_s);
     TakeRows(std::move(wide), std::move(cursor));
     return more;
 }

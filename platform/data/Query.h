@@ -42,6 +42,8 @@ class TFDDataSet : public TDataSet {
     // The connection is about to close or a transaction on it to end.
     virtual void ConnectionClosing() = 0;
     virtual void TransactionEnding() = 0;
+    // The host's transaction was rolled back.
+    virtual void TransactionUndone() = 0;
 
   private:
     friend class TFDCustomConnection;
@@ -93,6 +95,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     bool UpdatesPending() const;
     // Writes what is pending: deletions first, then the rows in their order. It stays pending until
     // CommitUpdates, so that it can be written again after a rollback; new records keep the keys they got.
+    // Within a transaction: what a commit outside one has done when the connection is lost, nobody can tell.
     // EDatabaseError, EFDError; the record that could not be written is then the current one.
     void ApplyUpdates();
     // What ApplyUpdates wrote is stored and pending no more; what was changed since stays so.
@@ -115,8 +118,10 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void DoRenew(int row) const override;
     void DoDelete() override;
     std::optional<QByteArray> DoReadBlob(int row, int column) const override;
+    void DoRowMoved(uint64_t from, uint64_t to) const override;
     void ConnectionClosing() override;
     void TransactionEnding() override;
+    void TransactionUndone() override;
     UnicodeString MainTable() const override;
 
   private:
@@ -124,6 +129,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void SQLChanged();
     void TakeText();
     fichario::PreparedQuery& RequirePrepared() const;
+    TStringArray ColumnNames() const;
     void TakeColumns();
     bool OpenOnce();
     int CountOnServer();
@@ -149,6 +155,7 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     void LogDelete();
     void WriteDeleted();
     void TakeApplied();
+    bool AppliedIn(int transaction) const { return FLog && FAppliedIn == transaction; }
     void WritePending(int row);
     void Write(std::vector<fichario::WriteColumn>& columns);
     template <class Check>
@@ -163,9 +170,11 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     fichario::RowStore ReadKeyed(const std::vector<fichario::WriteColumn>& columns) const;
     std::vector<fichario::WriteColumn> KeyedColumns(int row) const;
     void TakeRows(std::unique_ptr<fichario::RowStore> rows, std::unique_ptr<fichario::Cursor> cursor);
-    void RowMoved(uint64_t from, uint64_t to) const;
     std::optional<QByteArray> BlobIfHeld(int row, int column) const;
-    std::optional<QByteArray> TemporaryBlob(int row, int64_t id) const;
+    std::optional<QByteArray> TemporaryBlob(int row, int column, int64_t id) const;
+    QByteArray ReadStored(int column, int64_t id) const;
+    bool IsOfOtherSet(int column) const;
+    bool IsWide(int column) const;
     bool HasKey() const;
     bool StillHolds(int row, int column) const;
     void RenewForBlob(int row) const;
@@ -185,11 +194,16 @@ class TFDCustomQuery : public TFDRdbmsDataSet {
     mutable UnicodeString FColumnsTable;
     mutable std::vector<fichario::WriteColumn> FTableColumns;
     mutable int FColumnsVersion = -1;
+    mutable bool FSomeAgain = false;
     mutable bool FFits = false;                 // the rows here have the columns that the statement gives now
     std::unique_ptr<fichario::UpdateLog> FLog;  // null: posts go to the table at once
     bool FTextChanged = false;
     std::vector<Variant> FDoubtfulDeletion;  // the key of the record that may be gone
-    bool FRemember = false;                  // what the next post writes
+    int FAppliedIn = 0;      // the transaction that ApplyUpdates wrote in, by the connection's count
+    int FDoubtfulIn = 0;     // and that of the record that is in doubt
+    UnicodeString FText;     // the statement that counts
+    TStringArray FNames;     // of the columns that the fields are on
+    bool FRemember = false;  // what the next post writes
     std::optional<std::vector<fichario::WriteColumn>> FWritten;
 };
 

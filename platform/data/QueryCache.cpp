@@ -1,4 +1,5 @@
 // A query's records kept back until they are written together.
+#include "platform/data/Connection.h"
 #include "platform/data/Field.h"
 #include "platform/data/firebird/RecordWriter.h"
 #include "platform/data/PreparedQuery.h"
@@ -31,6 +32,10 @@ void TFDCustomQuery::CancelUpdates() {
     Open();
 }
 
+void TFDCustomQuery::TransactionUndone() {
+    if (AppliedIn(Connection()->FTransactions)) FLog->ForgetApplied();
+}
+
 std::vector<Variant> TFDCustomQuery::ValuesOf(int row) const {
     std::vector<Variant> values;
     for (int i = 0; i < FieldCount(); ++i) values.push_back(Rows().ValueOrBytes(row, i));
@@ -52,7 +57,7 @@ void TFDCustomQuery::LogPost() {
     const uint64_t from = Rows().Address(CurrentRow());
     Rows().SetValues(CurrentRow(), values);
     const uint64_t to = Rows().Address(CurrentRow());
-    RowMoved(from, to);
+    DoRowMoved(from, to);
     if (State() == dsInsert) return FLog->TakeInserted(to);
     FLog->TakeChanged(from, to, std::move(before));
 }
@@ -82,6 +87,7 @@ void TFDCustomQuery::ApplyUpdates() {
 }
 
 void TFDCustomQuery::TakeApplied() {
+    FAppliedIn = Connection()->FTransactions;
     FLog->TakeDeletionsApplied();
     for (int row = 0; row < Rows().Count(); ++row) {
         const uint64_t address = Rows().Address(row);
@@ -125,6 +131,6 @@ void TFDCustomQuery::WritePending(int row) {
     }
     const uint64_t from = Rows().Address(row);
     Rows().SetValues(row, values);
-    RowMoved(from, Rows().Address(row));
+    DoRowMoved(from, Rows().Address(row));
     FLog->TakeChanged(from, Rows().Address(row), {});
 }

@@ -62,11 +62,12 @@ bool TFDCustomQuery::DoHolds(const std::vector<Variant>& key) {
     if (!HasKey()) return false;
     std::vector<WriteColumn> columns = TableColumns();
     const std::vector<int> places = KeyColumns();
+    if (key.size() != places.size()) return false;
     for (WriteColumn& column : columns) {
         const auto place = std::find(places.begin(), places.end(), column.Column);
         if (place != places.end()) column.Value = key[static_cast<size_t>(place - places.begin())];
     }
-    return ReadKeyed(columns).Count() == 1;
+    return ReadKeyed(columns).Count() > 0;
 }
 
 // The record's columns of its own table: for one that no longer is among the statement's rows.
@@ -82,7 +83,7 @@ RowStore TFDCustomQuery::ReadWritten(const std::vector<WriteColumn>& columns) co
     if (conditions.empty()) return {};
     const UnicodeString sql = u"SELECT "_s + Joined(names, u", "_s) + u" FROM "_s +
                               QuoteIdentifier(FColumnsTable) + u" WHERE "_s + Joined(conditions, u" AND "_s);
-    return ReadRows(*FPrepared->On(), sql, key);
+    return ReadWhole(FPrepared->On(), sql, key);
 }
 
 // The row takes what its table holds now, or, when that cannot be asked for, what was written.
@@ -107,5 +108,5 @@ void TFDCustomQuery::TakeValues(int row, const std::vector<WriteColumn>& columns
     }
     const uint64_t before = Rows().Address(row);
     Rows().SetValues(row, std::span<const Variant* const>(values.data(), static_cast<size_t>(values.size())));
-    RowMoved(before, Rows().Address(row));
+    DoRowMoved(before, Rows().Address(row));
 }

@@ -49,6 +49,8 @@ std::vector<WriteColumn>& TFDCustomQuery::TableColumns() const {
     if (FColumnsTable.isEmpty())
         throw EDatabaseError(u"The statement has no table that records can be written to"_s);
     FTableColumns = DescribeTable(FColumnsTable);
+    FSomeAgain = std::any_of(FTableColumns.begin(), FTableColumns.end(),
+                             [](const WriteColumn& column) { return column.Again; });
     FColumnsVersion = FieldsVersion();
     return FTableColumns;
 }
@@ -84,7 +86,7 @@ std::vector<WriteColumn> TFDCustomQuery::DescribeTable(const UnicodeString& tabl
 std::vector<WriteColumn>& TFDCustomQuery::WriteColumns() const {
     std::vector<WriteColumn>& columns = TableColumns();
     for (WriteColumn& column : columns) State() == dsInsert ? TakeNew(column) : TakeChanged(column);
-    WriteOnce(columns);
+    if (FSomeAgain) WriteOnce(columns);
     return columns;
 }
 
@@ -102,7 +104,7 @@ void TFDCustomQuery::WriteOnce(std::vector<WriteColumn>& columns) const {
 void TFDCustomQuery::TakeNew(WriteColumn& column) const {
     const Variant* value = Assigned(column.Column);
     column.Write = column.CanWrite && value;
-    column.OldValue = Variant();
+    if (!column.OldValue.IsUnassigned()) column.OldValue = Variant();
     if (value) {
         column.Value = *value;
     } else {
@@ -149,10 +151,15 @@ void TFDCustomQuery::DoDelete() {
 void TFDCustomQuery::DeleteRecord() {
     RequireWriting();
     std::vector<WriteColumn>& columns = WriteColumns();
-    for (WriteColumn& column : columns) column.Write = false;
+    for (WriteColumn& column : columns) {
+        column.Write = false;
+        column.Value = column.OldValue;
+    }
     const auto gone = [&] { return ReadWritten(columns).Count() == 0; };
     const std::vector<Variant> key = CurrentKey();
-    if (std::exchange(FDoubtfulDeletion, {}) == key && !key.empty() && gone()) return;
+    const bool done = !key.empty() && FDoubtfulDeletion == key && gone();
+    FDoubtfulDeletion.clear();
+    if (done) return;
     RecordWriter writer(*FPrepared->On(), FColumnsTable, columns);
     try {
         writer.Delete();
@@ -242,7 +249,8 @@ bool TFDCustomQuery::Holds(const RowStore& found, int place, const WriteColumn& 
     Variant stored = found.ValueOrBytes(0, place);
     if (found.Layout().IsBlob(place) && !stored.IsNull()) {
         Attachment& attachment = *FPrepared->On();
-        const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), stored.ToInt64());
+        const bool wide = found.Layout().Encoding(place) == TextEncoding::Utf8Signs;
+        const QByteArray bytes = ReadBlob(attachment, *attachment.Reading(), stored.ToInt64(), wide);
         stored = column.Type == ftBlob ? Variant(bytes)
                                        : Variant(DecodeText(found.Layout().Encoding(place), bytes));
     }

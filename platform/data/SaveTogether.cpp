@@ -20,7 +20,7 @@ class TogetherSave {
     void Run(const std::function<void()>& work) {
         FConnection.StartTransaction();
         try {
-            if (FQuery && FQuery->DoubtfulIsStored()) CommitItems();
+            if (FQuery && FQuery->DoubtfulIsStored()) CommitItems(FQuery->FDoubtfulIn);
             Remember(true);
             const auto forget = qScopeGuard([this] { Remember(false); });
             work();
@@ -36,7 +36,7 @@ class TogetherSave {
         try {
             FConnection.EndTransaction(true);
         } catch (const EFDError& error) {
-            if (!error.ConnectionUsable && StoredAfterAll()) return CommitItems();
+            if (!error.ConnectionUsable && StoredAfterAll()) return CommitItems(FConnection.FTransactions);
             GoBack();
             throw;
         }
@@ -45,6 +45,7 @@ class TogetherSave {
         Undo();
         if (!FQuery || !FQuery->FWritten) return false;
         FTyped.Edits.Doubtful = FQuery->FWritten;
+        FQuery->FDoubtfulIn = FConnection.FTransactions;
         return FQuery->WrittenIsStored();
     }
     // What the host's work changes in the record before the post goes with what was typed: what it changed
@@ -54,9 +55,10 @@ class TogetherSave {
         if (FQuery) FQuery->FRemember = remember;
     }
     // What other datasets of the connection applied in the transaction is stored with it.
-    void CommitItems() {
+    void CommitItems(int transaction) {
         for (TFDDataSet* dataSet : FConnection.FDataSets) {
-            if (auto* query = dynamic_cast<TFDCustomQuery*>(dataSet)) query->CommitUpdates();
+            auto* query = dynamic_cast<TFDCustomQuery*>(dataSet);
+            if (query && query->AppliedIn(transaction)) query->CommitUpdates();
         }
     }
     void GoBack() {

@@ -1,6 +1,7 @@
 #include "platform/data/firebird/BoundStatement.h"
 
 #include "platform/data/firebird/Attachment.h"
+#include "platform/data/firebird/ErrorCodes.h"
 
 namespace fichario {
 
@@ -20,7 +21,7 @@ bool BoundStatement::Cast() {
     try {
         Statement = FAttachment.Prepare(WithCasts(Statement->Sql(), Input->Casts()));
     } catch (const EFDError& error) {
-        if (!error.ConnectionUsable) throw;
+        if (!error.Has(kSqlError)) throw;
         return false;
     }
     Lay();

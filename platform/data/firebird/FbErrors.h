@@ -11,7 +11,8 @@ namespace fichario {
 // The error of a status vector.
 EFDError ErrorOf(Firebird::IStatus& status);
 
-// The error of a list of codes alone, as ErrorOf would make it: for tests that let a call fail.
+// The error of a list of codes alone, as ErrorOf would make it: for what this layer finds itself, and for
+// tests that let a call fail.
 EFDError ErrorOfCodes(std::vector<int64_t> codes);
 
 // The error of a commit that nobody can settle by reading a record: when the connection was lost in it, what

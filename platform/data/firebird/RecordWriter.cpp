@@ -216,7 +216,8 @@ std::vector<Variant> RecordWriter::Insert(Insertion& last) {
         last.Work.Sql = InsertSql();
         last.Work.Prepared = {};
     }
-    RowStore returned;
+    RowStore& returned = last.Returned;
+    if (returned.Count() > 0) returned = {};
     try {
         Execute(last.Work, &returned);
     } catch (const EFDError&) {

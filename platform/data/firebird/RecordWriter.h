@@ -24,6 +24,7 @@ struct Insertion {
     UnicodeString Table;
     std::vector<char> Named;  // for each column, whose value it gets
     WriteWork Work;
+    RowStore Returned;  // the key's values that the server made
 };
 
 class RecordWriter {

@@ -165,7 +165,7 @@ TEST_F(ScriptTest, TransactionsAndLostConnections) {
     std::optional<FailingCall> failing;
     bool lost = false;
     const auto fail = [&](const QStringList& a) {
-        failing.emplace(a[0].toInt(), fichario::kConnectionLost);
+        failing.emplace(a[0].toInt(), a.size() > 1 ? a[1].toLongLong() : fichario::kConnectionLost);
         FConnection->OnLost = [&](TFDCustomConnection*) { lost = true; };
         return QString();
     };
