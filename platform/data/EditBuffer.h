@@ -47,7 +47,8 @@ class EditBuffer {
         const auto index = static_cast<size_t>(column);
         if (index >= FSlots.size()) FSlots.resize(index + 1);
         FEnd = std::max(FEnd, index + 1);
-        FSlots[index] = {std::move(value), ++FTurn};
+        FSlots[index].Value = std::move(value);
+        FSlots[index].Turn = ++FTurn;
     }
     // Higher, the later the column was set; 0: not set.
     int Turn(int column) const { return Find(column) ? FSlots[static_cast<size_t>(column)].Turn : 0; }

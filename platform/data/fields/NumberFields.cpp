@@ -29,6 +29,8 @@ UnicodeString WithoutThousands(const UnicodeString& typed) {
     return plain.remove(separator);
 }
 
+constexpr double kRounding = 1 + 1e-14;  // Largest() has 15 digits
+
 }  // namespace
 
 void TNumericField::SetDisplayFormat(const UnicodeString& mask) {
@@ -89,10 +91,15 @@ Variant TLargeintField::ConvertText(const UnicodeString& text) const {
 
 // ---- numbers with decimals ----
 
-// Whether the column can hold it. Largest() has 15 digits.
+// Whether the column can hold it.
 bool TNumericField::Fits(double number) const {
-    constexpr double kRounding = 1 + 1e-14;
     return std::isfinite(number) && (Largest() <= 0 || std::fabs(number) <= Largest() * kRounding);
+}
+
+// Without a division.
+bool TBCDField::FitsUnscaled(const Decimal& number) const {
+    return Largest() <= 0 || std::fabs(static_cast<double>(number.Unscaled)) <=
+                                 Largest() * kRounding * static_cast<double>(PowerOfTen(number.Scale));
 }
 
 Variant TFloatField::Convert(const Variant& value) const {
@@ -114,7 +121,7 @@ Variant TBCDField::Convert(const Variant& value) const {
         number = value.ToDecimal().Rescale(Size());
     } catch (const EConvertError&) {
     }
-    if (!number || !Fits(number->ToDouble())) RefuseText(value.ToText(), kNumber);
+    if (!number || !FitsUnscaled(*number)) RefuseText(value.ToText(), kNumber);
     return *number;
 }
 

@@ -76,4 +76,7 @@ class TBCDField : public TNumericField {
     Variant Convert(const Variant& value) const override;
     Variant ConvertText(const UnicodeString& text) const override;
     UnicodeString ByMask(const UnicodeString& mask, const Variant& value) const override;
+
+  private:
+    bool FitsUnscaled(const Decimal& number) const;
 };
