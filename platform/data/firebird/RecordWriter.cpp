@@ -73,8 +73,11 @@ bool RecordWriter::CanCompare(const WriteColumn& column) const {
 }
 
 // What the server would lose or refuse without a name on the way from the connection's set to a column's.
+// Within one set all passes, but for the holes of Windows-1252.
 void RecordWriter::CheckCharacters(const WriteWork& work) const {
+    const unsigned connection = FAttachment.CharacterSet();
     for (size_t i = 0; i < work.Values.size(); ++i) {
+        if (work.Places[i]->CharacterSet == connection && connection != kWin1252Set) continue;
         const UnicodeString lost = LostOf(*work.Places[i], work.Values[i].Value());
         if (!lost.isEmpty()) RefuseMisfit({i, lost, 0}, work.Places[i]->Label);
     }
@@ -173,22 +176,30 @@ TStringArray RecordWriter::MissingKey() const {
     return names;
 }
 
-// Whether the insertion names the same columns as the one that `insertion` holds, which then has this one's
-// values; otherwise it has to be written anew.
-bool RecordWriter::TakeValues(Insertion& insertion) const {
-    insertion.Work.Values.clear();
-    insertion.Work.Places.clear();
-    bool same = insertion.Table == FTable && insertion.Named.size() == FColumns.size();
-    insertion.Named.resize(FColumns.size());
-    for (size_t i = 0; i < FColumns.size(); ++i) {
-        const WriteColumn& column = FColumns[i];
-        const bool leftToServer = column.Key && column.Value.IsNull();
-        const char named = leftToServer ? kServers : column.Write ? kOurs : kNone;
-        same = same && insertion.Named[i] == named;
-        insertion.Named[i] = named;
-        if (named == kOurs) insertion.Work.Bind(column, column.Value);
+// Whose value a column of the insertion gets.
+char RecordWriter::NamedBy(const WriteColumn& column) {
+    if (column.Key && column.Value.IsNull()) return kServers;
+    return column.Write ? kOurs : kNone;
+}
+
+// Whether the insertion names the same columns as the one that `insertion` holds, whose values then are this
+// one's; otherwise it has to be written anew.
+bool RecordWriter::IsSameAs(const Insertion& insertion) const {
+    const bool here = insertion.Columns == FColumns.data() && insertion.Named.size() == FColumns.size();
+    return here && insertion.Table == FTable &&
+           std::equal(FColumns.begin(), FColumns.end(), insertion.Named.begin(),
+                      [](const WriteColumn& column, char named) { return NamedBy(column) == named; });
+}
+
+void RecordWriter::WriteAnew(Insertion& insertion) const {
+    insertion = {};
+    insertion.Table = FTable;
+    insertion.Columns = FColumns.data();
+    for (const WriteColumn& column : FColumns) {
+        insertion.Named.push_back(NamedBy(column));
+        if (insertion.Named.back() == kOurs) insertion.Work.Bind(column, column.Value);
     }
-    return same;
+    insertion.Work.Sql = InsertSql();
 }
 
 UnicodeString RecordWriter::InsertSql() const {
@@ -211,11 +222,7 @@ std::vector<Variant> RecordWriter::Insert() {
 }
 
 std::vector<Variant> RecordWriter::Insert(Insertion& last) {
-    if (!TakeValues(last)) {
-        last.Table = FTable;
-        last.Work.Sql = InsertSql();
-        last.Work.Prepared = {};
-    }
+    if (!IsSameAs(last)) WriteAnew(last);
     RowStore& returned = last.Returned;
     if (returned.Count() > 0) returned = {};
     try {

@@ -22,7 +22,8 @@ struct WriteWork {
 // The last insertion, for the next one that names the same columns.
 struct Insertion {
     UnicodeString Table;
-    std::vector<char> Named;  // for each column, whose value it gets
+    const WriteColumn* Columns = nullptr;  // where they stand, which Work refers to
+    std::vector<char> Named;               // for each column, whose value it gets
     WriteWork Work;
     RowStore Returned;  // the key's values that the server made
 };
@@ -49,7 +50,9 @@ class RecordWriter {
     const std::vector<Variant>& DoubtfulKey() const { return FDoubtfulKey; }
 
   private:
-    bool TakeValues(Insertion& insertion) const;
+    static char NamedBy(const WriteColumn& column);
+    bool IsSameAs(const Insertion& insertion) const;
+    void WriteAnew(Insertion& insertion) const;
     UnicodeString InsertSql() const;
     TStringArray KeyConditions(WriteWork& work) const;
     TStringArray OldConditions(WriteWork& work) const;
