@@ -85,24 +85,31 @@ Variant ReadScalar(std::shared_ptr<Attachment> attachment, const UnicodeString& 
     return FirstValue(*attachment, ReadWhole(attachment, scanned.Text, InputsFor(scanned, values), 1));
 }
 
+// The first exception tells the cause.
+void Undo(Attachment& attachment) {
+    try {
+        if (attachment.Host()) attachment.EndHost(false);
+    } catch (const EFDError&) {
+    }
+}
+
 // Does `work` in the host's transaction or in one of its own.
 template <class Work>
 Variant InTransactionOf(Attachment& attachment, Work work) {
     if (attachment.Host()) return work();
     attachment.StartHost();
-    Variant value;
     try {
-        value = work();
+        const Variant value = work();
+        attachment.EndHost(true);
+        return value;
+    } catch (const EFDError& error) {
+        Undo(attachment);
+        if (attachment.LostIn() == CallKind::Commit) throw Undecided(error);
+        throw;
     } catch (...) {
-        if (attachment.Usable()) attachment.EndHost(false);
+        Undo(attachment);
         throw;
     }
-    try {
-        attachment.EndHost(true);
-    } catch (const EFDError& error) {
-        throw Undecided(error);
-    }
-    return value;
 }
 
 // What a statement that is no SELECT gives: one that gives rows one after the other (EXECUTE BLOCK) is read.

@@ -81,7 +81,7 @@ std::optional<QByteArray> TFDCustomQuery::TemporaryBlob(int row, int column, int
     if (found.Count() != 1 || !(found.Layout() == Rows().Layout()))
         throw EUnreadableText({}, u"a consulta precisa ser atualizada"_s);
     const Variant again = found.Value(0, column);
-    if (again.IsNull()) return QByteArray();
+    if (again.IsNull()) return std::nullopt;
     return ReadBlob(attachment, *attachment.Reading(), again.ToInt64(), IsWide(column));
 }
 
